@@ -1,0 +1,108 @@
+#include "panels/save_dialog.h"
+
+#include <array>
+#include <cmath>
+
+#include "base/files.h"
+#include "base/number_text.h"
+#include "base/platform.h"
+#include "base/text_lines.h"
+#include "controls/forms.h"
+#include "hull/chine_spline.h"
+#include "hull/hull_model.h"
+
+namespace {
+
+constexpr const char* SettingsFile = "hull.dat";
+
+/// The check boxes in the order of the settings file.
+std::array<CheckBox*, 10> SettingsBoxes() {
+  return {&Form3.Check1, &Form3.Check3, &Form3.Check4, &Form3.Check5, &Form3.Check6,
+          &Form3.Check2, &Form3.Check7, &Form3.Check8, &Form3.Check9, &Form3.Check10};
+}
+
+void FillBoxes() {
+  for (int i = 0; i < FrameCount; ++i) {
+    Form3.FrameText[static_cast<std::size_t>(i)].Text = FrameBoxText(i);
+  }
+  Form3.Text1.Text = HullFileName;
+  Form3.Text2.Text = HullDesigner;
+  Form3.Text3.Text = HullInfo;
+  Form3.Text4.Text = HullContact;
+  Form3.Text5.Text = HullDate;
+}
+
+}  // namespace
+
+void Dummy4_Click() {
+  PitchAngle = 0;
+  ApplyPitch();
+  FillBoxes();
+  Form3.ShowModal();
+  Form3.File1.Refresh();
+  Form3.Text1.Text = HullFileName;
+}
+
+void Form3_Text1_Change() {
+  const std::string typed = Form3.Text1.Text;
+  const std::size_t dot = typed.find('.');
+  Form3.Text1.Text = (dot == std::string::npos ? typed.substr(0, 8) : typed.substr(0, dot)) + ".tvh";
+  HullFileName = Form3.Text1.Text;
+}
+
+void Form3_Text2_Change() {
+  HullDesigner = Form3.Text2.Text;
+}
+
+void Form3_Text3_Change() {
+  HullInfo = Form3.Text3.Text;
+}
+
+void Form3_Text4_Change() {
+  HullContact = Form3.Text4.Text;
+}
+
+void Form3_Text5_Change() {
+  HullDate = Form3.Text5.Text;
+}
+
+void Form3_Text6_Change() {
+  ExportPath = Form3.Text6.Text;
+  if (ExportPath.empty() || (ExportPath.back() != '/' && ExportPath.back() != '\\')) {
+    ExportPath += PathSeparator;
+  }
+}
+
+void FrameText_Change(int index) {
+  const auto i = static_cast<std::size_t>(index);
+  const double z = std::abs(NumberOf(*Form3.FrameText[i].Text));
+  if (HasValue(z)) {
+    FrameZ[i] = z;
+  }
+}
+
+void ReadSaveSettings() {
+  const std::optional<std::string> text = ReadTextFile(FindFile(SettingsFile));
+  if (!text) {
+    return;
+  }
+  TextReader in(*text);
+  std::string_view item;
+  for (CheckBox* box : SettingsBoxes()) {
+    if (in.ReadItem(item)) {
+      box->Value = NumberOf(item) != 0;
+    }
+  }
+  if (in.ReadItem(item)) {
+    Form3.Text6.Text = std::string(item);
+  }
+}
+
+void WriteSaveSettings() {
+  std::string out;
+  for (const CheckBox* box : SettingsBoxes()) {
+    PutLine(out, PrintText(box->Value ? 1 : 0));
+  }
+  PutLine(out, *Form3.Text6.Text);
+  WriteTextFile(SettingsFile, out);
+}

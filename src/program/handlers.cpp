@@ -1,0 +1,35 @@
+#include "program/handlers.h"
+
+#include "controls/forms.h"
+#include "hull/chine_count.h"
+#include "hull/chine_spline.h"
+#include "panels/save_and_create.h"
+#include "panels/save_dialog.h"
+
+namespace {
+
+void BindForm1() {
+  Form1.Refresh = RecomputeHull;
+  Form1.Text3.Change = Text3_Change;
+  Form1.VScroll1.Change = VScroll1_Change;
+}
+
+void BindForm3() {
+  Form3.Text1.Change = Form3_Text1_Change;
+  Form3.Text2.Change = Form3_Text2_Change;
+  Form3.Text3.Change = Form3_Text3_Change;
+  Form3.Text4.Change = Form3_Text4_Change;
+  Form3.Text5.Change = Form3_Text5_Change;
+  Form3.Text6.Change = Form3_Text6_Change;
+  for (std::size_t i = 0; i < Form3.FrameText.size(); ++i) {
+    Form3.FrameText[i].Change = [i] { FrameText_Change(static_cast<int>(i)); };
+  }
+  Form3.Command1.Click = SaveAndCreate;
+}
+
+}  // namespace
+
+void BindHandlers() {
+  BindForm1();
+  BindForm3();
+}

@@ -1,0 +1,29 @@
+#pragma once
+// The drawing contract between the core and a toolkit. This header stands below the rest of its
+// folder: it includes nothing of the house, so that the controls can hold surfaces.
+
+#include <string_view>
+
+/// A picture that draws at once, in order, and keeps what was drawn. Coordinates are the surface's
+/// own, set by Scale; colours are indices of the classic 16-colour palette. A call with a coordinate
+/// that has no value draws nothing. Every operation does nothing here: this is also the surface of
+/// a program without a display.
+class DrawSurface {
+ public:
+  /// A colour argument that stands for the surface's foreground colour.
+  static constexpr int Foreground = -1;
+
+  virtual ~DrawSurface() = default;
+
+  /// Clears to the background.
+  virtual void Cls() {}
+  /// x1 is the left edge, x2 the right, y1 the top, y2 the bottom. An empty range is refused and
+  /// the earlier scale stays.
+  virtual void Scale(double /*x1*/, double /*y1*/, double /*x2*/, double /*y2*/) {}
+  /// One straight segment; its end becomes the current point.
+  virtual void Line(double /*x1*/, double /*y1*/, double /*x2*/, double /*y2*/, int /*colour*/) {}
+
+  /// Outer size in the form's units, used only as a ratio.
+  virtual double Width() const { return 0; }
+  virtual double Height() const { return 0; }
+};

@@ -1,0 +1,77 @@
+#include "base/files.h"
+
+#include "support/program_test.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+using Files = ProgramTest;
+
+TEST_F(Files, AreFoundInAnyLetterCaseAndReplacedUnderTheirOwnName) {
+  Write("Chine1.UC", "old");
+  EXPECT_EQ(FindFile("chine1.uc").filename(), "Chine1.UC");
+  EXPECT_TRUE(WriteTextFile("chine1.uc", "new"));
+  EXPECT_EQ(Names(), std::vector<std::string>{"Chine1.UC"});
+  EXPECT_EQ(Read("Chine1.UC"), "new");
+}
+
+TEST_F(Files, BothSeparatorsLeadIntoFolders) {
+  fs::create_directory(folder / "out");
+  EXPECT_TRUE(WriteTextFile("out\\a.dxf", "1"));
+  EXPECT_TRUE(WriteTextFile("out/b.dxf", "2"));
+  EXPECT_EQ(Read("out/a.dxf") + Read("out/b.dxf"), "12");
+}
+
+TEST_F(Files, ReadOnlyFilesStayWhoeverAsks) {
+  Write("a.uc", "kept");
+  fs::permissions(folder / "a.uc", fs::perms::owner_read);
+  std::string told;
+  FileFailed = [&told](const fs::path& path, const std::string&) { told += path.filename().string() + " "; };
+  EXPECT_FALSE(WriteTextFile("a.uc", "lost"));
+  EXPECT_FALSE(CopyTextFile("a.uc", "a.uc"));
+  DeleteFiles("", ".uc");
+  FileFailed = nullptr;
+  EXPECT_EQ(Read("a.uc"), "kept");
+  EXPECT_EQ(told, "a.uc a.uc ");
+}
+
+TEST_F(Files, AFullDiskCostsNothing) {
+  if (!fs::exists("/dev/full")) {
+    GTEST_SKIP() << "no /dev/full here";
+  }
+  fs::create_symlink("/dev/full", folder / "full.txt");
+  std::string why;
+  FileFailed = [&why](const fs::path&, const std::string& reason) { why = reason; };
+  EXPECT_FALSE(WriteTextFile("full.txt", "x"));
+  EXPECT_FALSE(WriteTextFile("no/such/folder/x.txt", "x"));
+  FileFailed = nullptr;
+  EXPECT_FALSE(why.empty());
+  EXPECT_EQ(Names(), std::vector<std::string>{"full.txt"}) << "nothing half written is left";
+}
+
+TEST_F(Files, ALinkStaysALinkAndItsFileIsReplaced) {
+  Write("real.tvh", "old");
+  fs::create_symlink("real.tvh", folder / "link.tvh");
+  EXPECT_TRUE(WriteTextFile("link.tvh", "new"));
+  EXPECT_TRUE(fs::is_symlink(folder / "link.tvh"));
+  EXPECT_EQ(Read("real.tvh"), "new");
+}
+
+TEST_F(Files, DeletingGoesByBeginningAndEnding) {
+  for (const char* name : {"chine1.tri", "Chine10.TRI", "keel.tri", "chine.txt", "tri"}) {
+    Write(name, "");
+  }
+  DeleteFiles("chine", ".tri");
+  EXPECT_EQ(Names(), (std::vector<std::string>{"chine.txt", "keel.tri", "tri"}));
+}
+
+TEST_F(Files, AKeptFileIsNeverWrittenTo) {
+  Write("boat.tvh", "mine");
+  KeepAsItIs(folder / "boat.tvh");
+  EXPECT_FALSE(WriteTextFile("BOAT.tvh", "theirs"));
+  KeepAsItIs({});
+  EXPECT_EQ(Read("boat.tvh"), "mine");
+}
+
+}  // namespace
