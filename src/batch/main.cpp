@@ -1,0 +1,142 @@
+// The command line program: its arguments, and the exit status 0 done, 1 could not do it, 2 usage.
+
+#include <CLI/CLI.hpp>
+#include <cmath>
+#include <functional>
+#include <iostream>
+
+#include "batch/commands.h"
+#include "batch/report.h"
+
+namespace {
+
+/// Help that reads like the synopsis of a man page.
+class SynopsisFormatter : public CLI::Formatter {
+ public:
+  explicit SynopsisFormatter(std::string synopsis) : synopsis_(std::move(synopsis)) { column_width(26); }
+
+  std::string make_usage(const CLI::App* /*app*/, std::string /*name*/) const override {
+    return "SYNOPSIS\n" + synopsis_ + "\n";
+  }
+  std::string make_description(const CLI::App* app) const override {
+    return "NAME\n  " + app->get_description() + "\n\n";
+  }
+  std::string make_positionals(const CLI::App* /*app*/) const override { return {}; }
+
+ private:
+  std::string synopsis_;
+};
+
+/// Two digits of a date or time between two limits, at a place of the text.
+bool PairIsWithin(const std::string& text, std::size_t at, int low, int high) {
+  const auto is_digit = [&](std::size_t i) { return text[i] >= '0' && text[i] <= '9'; };
+  const int value = (text[at] - '0') * 10 + (text[at + 1] - '0');
+  return is_digit(at) && is_digit(at + 1) && value >= low && value <= high;
+}
+
+std::string CheckDate(const std::string& text) {
+  const bool fits = text.size() == 10 && text[2] == '-' && text[5] == '-' && PairIsWithin(text, 0, 1, 12) &&
+                    PairIsWithin(text, 3, 1, 31) && PairIsWithin(text, 6, 0, 99) &&
+                    PairIsWithin(text, 8, 0, 99);
+  return fits ? "" : "expected a date as MM-DD-YYYY, found " + text;
+}
+
+std::string CheckTime(const std::string& text) {
+  const bool fits = text.size() == 8 && text[2] == ':' && text[5] == ':' && PairIsWithin(text, 0, 0, 23) &&
+                    PairIsWithin(text, 3, 0, 59) && PairIsWithin(text, 6, 0, 59);
+  return fits ? "" : "expected a time as HH:MM:SS, found " + text;
+}
+
+constexpr const char* HullHelp =
+    "\nHULL\n  A hull file (.tvh). Without it, the built-in hull. The file is only read.\n";
+
+void AddPatterns(CLI::App& app, PatternsArguments& arguments, std::function<int()>& run) {
+  CLI::App* const command =
+      app.add_subcommand("patterns", "tarve-batch patterns - full-size patterns of a hull");
+  command->formatter(std::make_shared<SynopsisFormatter>(
+      "  tarve-batch patterns [HULL] [--into DIR] [--keel] [--deck] [--soles] [--stem]\n"
+      "              [--spar] [--text] [--half-frames] [--frame Z]... [--dxf] [--hpgl]\n"
+      "              [--export-path DIR] [--date MM-DD-YYYY] [--time HH:MM:SS]"));
+  command->add_option("hull", arguments.hull);
+  command->add_option("--into", arguments.into, "Working folder, made if missing; the current one otherwise")
+      ->type_name("DIR");
+  command->add_flag("--keel", arguments.keel, "Bottom panel across the centre line at chine 1");
+  command->add_flag("--deck", arguments.deck, "Deck panel across the centre line at the top chine");
+  command->add_flag("--soles", arguments.soles, "Sole panels at chines 2 and 3");
+  command->add_flag("--stem", arguments.stem, "Stem (bulkhead 0)");
+  command->add_flag("--spar", arguments.spar, "Cut-out for a 2x4 spar in bulkheads and frames");
+  command->add_flag("--text", arguments.text, "Lettering");
+  command->add_flag("--half-frames", arguments.half_frames, "One side only of bulkheads, frames and transom");
+  command
+      ->add_option("--frame", arguments.frames,
+                   "A frame Z inches aft of the stem; up to eight. They replace the hull's own frames")
+      ->type_name("Z")
+      ->allow_extra_args(false)
+      ->check([](const std::string& text) {
+        return std::isfinite(std::strtod(text.c_str(), nullptr)) ? "" : "expected inches, found " + text;
+      });
+  command->add_flag("--dxf", arguments.dxf, "DXF copies of all patterns");
+  command->add_flag("--hpgl", arguments.hpgl, "HPGL copies of all patterns");
+  command
+      ->add_option("--export-path", arguments.export_path,
+                   "Folder for the copies; the working folder otherwise")
+      ->type_name("DIR");
+  command->add_option("--date", arguments.date, "Date to write instead of today's")
+      ->type_name("MM-DD-YYYY")
+      ->check(CheckDate);
+  command->add_option("--time", arguments.time, "Time to write instead of the clock's")
+      ->type_name("HH:MM:SS")
+      ->check(CheckTime);
+  command->footer(std::string(HullHelp) +
+                  "\nEXAMPLE\n  tarve-batch patterns dory.tvh --into dory --deck --text --frame 40 --dxf\n");
+  command->callback([&] {
+    if (arguments.frames.size() > 8) {
+      throw CLI::ValidationError("--frame", "expected at most eight frames");
+    }
+    run = [&arguments] { return RunPatterns(arguments); };
+  });
+}
+
+void AddPoints(CLI::App& app, PointsArguments& arguments, std::function<int()>& run) {
+  CLI::App* const command =
+      app.add_subcommand("points", "tarve-batch points - the interpolated hull as a table");
+  command->formatter(std::make_shared<SynopsisFormatter>("  tarve-batch points [HULL] [--format csv|json]"));
+  command->add_option("hull", arguments.hull);
+  command->add_option("--format", arguments.format, "csv (the usual one) or json")
+      ->type_name("FORMAT")
+      ->check(CLI::IsMember({"csv", "json"}));
+  command->footer(std::string(HullHelp) +
+                  "\nEXAMPLE\n  tarve-batch points dory.tvh --format json > dory.json\n");
+  command->callback([&] { run = [&arguments] { return RunPoints(arguments); }; });
+}
+
+int Run(int argc, char** argv) {
+  CLI::App app("tarve-batch - work on hull files without a window");
+  app.formatter(std::make_shared<SynopsisFormatter>(
+      "  tarve-batch COMMAND [ARGUMENT]...\n  tarve-batch COMMAND --help"));
+  app.footer("\nEXAMPLE\n  tarve-batch patterns dory.tvh --into dory --text --dxf\n");
+  app.require_subcommand(1);
+  PatternsArguments patterns;
+  PointsArguments points;
+  std::function<int()> run;
+  AddPatterns(app, patterns, run);
+  AddPoints(app, points, run);
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    return app.exit(error) == 0 ? Done : WrongUsage;
+  }
+  return run();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  try {
+    const int status = Run(argc, argv);
+    std::cout.flush();
+    return std::cout ? status : Complain("standard output: could not write all of it");
+  } catch (const std::exception& error) {
+    return Complain(error.what());
+  }
+}

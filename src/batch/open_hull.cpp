@@ -1,0 +1,36 @@
+#include <filesystem>
+#include <optional>
+
+#include "base/files.h"
+#include "batch/commands.h"
+#include "batch/hull_check.h"
+#include "batch/report.h"
+#include "hull/hull_file.h"
+#include "hull/hull_model.h"
+#include "program/start_up.h"
+
+bool OpenHull(const std::string& path) {
+  std::optional<std::string> text;
+  if (!path.empty()) {
+    text = ReadTextFile(std::filesystem::path(path));
+    if (!text) {
+      ComplainAboutFiles();
+      return false;
+    }
+    const HullCheck check = CheckHull(*text);
+    const std::string place = path + ", line " + std::to_string(check.line) + ": ";
+    if (!check.error.empty()) {
+      Complain(place + check.error);
+      return false;
+    }
+    if (!check.warning.empty()) {
+      Complain(place + "warning: " + check.warning);
+    }
+  }
+  StartProgram();
+  if (text) {
+    HullFileName = std::filesystem::path(path).filename().string();
+    LoadHull(WithPoints(*text), HullReader::FileList);
+  }
+  return true;
+}
