@@ -5,8 +5,10 @@
 #include <cstdio>
 #include <memory>
 #include <system_error>
+#include <utility>
 #include <vector>
 
+#include "base/file_replacement.h"
 #include "base/platform.h"
 #include "base/text_case.h"
 
@@ -21,106 +23,140 @@ fs::path working_folder;
 fs::path data_folder;
 fs::path kept_file;
 
-/// More than any file of this system can grow to; the rest of a larger one is not read.
-constexpr std::size_t MostBytes = std::size_t{256} << 20;
+/// More than any file of this system can grow to.
+constexpr std::size_t MostBytes = std::size_t{64} << 20;
 
-struct CloseFile {
-  void operator()(std::FILE* file) const { std::fclose(file); }
+/// A change that is held back: the new text, or none for a file that is to be deleted.
+struct HeldChange {
+  fs::path path;
+  std::optional<std::string> text;
 };
-using OpenFile = std::unique_ptr<std::FILE, CloseFile>;
-
-OpenFile Open(const fs::path& path, const char* mode) {
-  return OpenFile(std::fopen(path.string().c_str(), mode));
-}
-
-std::string LastError() {
-  return std::generic_category().message(errno);
-}
+bool holding_back = false;
+std::vector<HeldChange> held;
 
 bool Fail(const fs::path& path, const std::string& why) {
   FileFailed(path, why);
   return false;
 }
 
-fs::path FindIn(const fs::path& path) {
+HeldChange* FindHeld(const fs::path& path) {
+  const auto found =
+      std::find_if(held.begin(), held.end(), [&](const HeldChange& h) { return h.path == path; });
+  return found == held.end() ? nullptr : &*found;
+}
+
+void Hold(const fs::path& path, std::optional<std::string> text) {
+  if (HeldChange* change = FindHeld(path)) {
+    change->text = std::move(text);
+  } else {
+    held.push_back({path, std::move(text)});
+  }
+}
+
+/// Whether there is such a file, with what is held back taken as done.
+bool Exists(const fs::path& path) {
+  if (const HeldChange* change = FindHeld(path)) {
+    return change->text.has_value();
+  }
   std::error_code failed;
-  if (fs::exists(path, failed)) {
+  return fs::exists(path, failed);
+}
+
+/// Calls take(path) for the files of a folder, with what is held back taken as done.
+template <class Take>
+void ForEachFile(const fs::path& folder, Take take) {
+  std::error_code failed;
+  for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end; entry.increment(failed)) {
+    std::error_code unknown;
+    if (!entry->is_directory(unknown) && FindHeld(entry->path()) == nullptr) {
+      take(entry->path());
+    }
+  }
+  for (const HeldChange& change : held) {
+    if (change.text && change.path.parent_path() == folder) {
+      take(change.path);
+    }
+  }
+}
+
+fs::path FindIn(const fs::path& path) {
+  if (Exists(path)) {
     return path;
   }
   const std::string wanted = LowerCase(path.filename().string());
-  for (fs::directory_iterator entry(path.parent_path(), failed), end; !failed && entry != end;
-       entry.increment(failed)) {
-    if (LowerCase(entry->path().filename().string()) == wanted) {
-      return entry->path();
+  fs::path found;
+  ForEachFile(path.parent_path(), [&](const fs::path& file) {
+    if (found.empty() && LowerCase(file.filename().string()) == wanted) {
+      found = file;
     }
-  }
-  return {};
+  });
+  return found;
 }
 
-/// Writes and closes; false with errno set if any byte did not go out.
-bool WriteAndClose(OpenFile file, std::string_view text) {
-  const bool written = file && std::fwrite(text.data(), 1, text.size(), file.get()) == text.size();
-  const int reason = errno;
-  const bool closed = file && std::fclose(file.release()) == 0;
-  errno = written ? errno : reason;
-  return written && closed;
+bool IsKept(const fs::path& path) {
+  std::error_code failed;
+  return !kept_file.empty() && fs::equivalent(path, kept_file, failed);
 }
 
-/// Whether an existing file may be written to. The permission bits count too, because a user with
-/// all rights would be let past them, and a file that was made read-only is meant to stay.
-bool IsWritable(const fs::path& path, fs::perms permissions) {
-  const fs::perms any_write = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
-  if ((permissions & any_write) == fs::perms::none) {
-    errno = EACCES;
-    return false;
-  }
-  return Open(path, "r+b") != nullptr;
-}
-
-/// Writes beside the target and moves the complete file over it.
-bool Replace(const fs::path& target, const fs::file_status& old, std::string_view text) {
-  static unsigned count = 0;
-  fs::path beside;
-  OpenFile file;
-  do {
-    beside = target;
-    beside += ".new" + std::to_string(++count);
-    file = Open(beside, "wbx");
-  } while (!file && errno == EEXIST);
+std::optional<std::string> ReadAll(const fs::path& path) {
+  const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.string().c_str(), "rb"),
+                                                             std::fclose);
   if (!file) {
-    return Fail(target, LastError());
+    Fail(path, std::generic_category().message(errno));
+    return std::nullopt;
   }
   std::error_code failed;
-  if (!WriteAndClose(std::move(file), text)) {
-    const std::string why = LastError();
-    fs::remove(beside, failed);
-    return Fail(target, why);
+  const std::uintmax_t size = fs::file_size(path, failed);
+  const std::size_t chunk = failed ? 65536 : std::min<std::uintmax_t>(size, MostBytes) + 1;
+  std::string text;
+  std::size_t used = 0;
+  std::size_t taken = chunk;
+  while (taken == chunk && used <= MostBytes) {
+    text.resize(used + chunk);
+    taken = std::fread(text.data() + used, 1, chunk, file.get());
+    used += taken;
   }
-  if (fs::is_regular_file(old)) {
-    fs::permissions(beside, old.permissions(), failed);
+  if (std::ferror(file.get()) != 0 || used > MostBytes) {
+    Fail(path, used > MostBytes ? "is larger than any file of this program" : "could not be read to its end");
+    return std::nullopt;
   }
-  fs::rename(beside, target, failed);
-  if (failed) {
-    const std::string why = failed.message();
-    fs::remove(beside, failed);
-    return Fail(target, why);
+  text.resize(used);
+  return text;
+}
+
+bool Remove(const fs::path& path) {
+  std::error_code failed;
+  return fs::remove(path, failed) || Fail(path, failed.message());
+}
+
+/// Everything that can go wrong goes wrong here, before anything has changed.
+bool PrepareHeld(std::vector<Replacement>& prepared) {
+  for (const HeldChange& change : held) {
+    prepared.push_back(change.text ? BeginReplacement(change.path, *change.text)
+                                   : Replacement{change.path, {}, WhyNotWritable(change.path)});
+    if (!prepared.back().problem.empty()) {
+      return Fail(change.path, prepared.back().problem);
+    }
   }
   return true;
 }
 
-bool WriteTo(const fs::path& path, std::string_view text) {
-  std::error_code failed;
-  const fs::file_status old = fs::status(path, failed);
-  if (!fs::exists(old)) {
-    return Replace(path, old, text);
+bool FinishHeld(const std::vector<Replacement>& prepared) {
+  bool all = true;
+  for (std::size_t i = 0; i < held.size(); ++i) {
+    if (!held[i].text) {
+      std::error_code failed;
+      fs::remove(held[i].path, failed);
+      continue;
+    }
+    const std::string problem = FinishReplacement(prepared[i]);
+    if (problem.empty()) {
+      FileWritten(held[i].path, held[i].text->size());
+    } else {
+      all = Fail(held[i].path, problem);
+    }
   }
-  if (fs::is_directory(old) || !IsWritable(path, old.permissions())) {
-    return Fail(path, fs::is_directory(old) ? "is a folder" : LastError());
-  }
-  if (!fs::is_regular_file(old)) {  // a device takes what is written as it comes
-    return WriteAndClose(Open(path, "wb"), text) || Fail(path, LastError());
-  }
-  return Replace(fs::canonical(path, failed), old, text);
+  return all;
 }
 
 }  // namespace
@@ -147,15 +183,8 @@ fs::path ShippedDataFolder() {
   return fs::is_directory(installed, failed) ? installed : fs::path(TARVE_SOURCE_DATA);
 }
 
-fs::path PathOf(std::string_view name) {
-  std::string local(name);
-  std::replace(local.begin(), local.end(), '\\', PathSeparator);
-  std::replace(local.begin(), local.end(), '/', PathSeparator);
-  return WorkingFolder() / fs::path(local);
-}
-
 fs::path FindFile(std::string_view name) {
-  return FindIn(PathOf(name));
+  return FindIn(WorkingFolder() / fs::path(name));
 }
 
 fs::path FindShippedFile(std::string_view name) {
@@ -167,30 +196,15 @@ std::optional<std::string> ReadTextFile(const fs::path& path) {
   if (path.empty()) {
     return std::nullopt;
   }
+  if (const HeldChange* change = FindHeld(path)) {
+    return change->text;
+  }
   std::error_code failed;
   if (fs::is_directory(path, failed)) {
     Fail(path, "is a folder");
     return std::nullopt;
   }
-  const OpenFile file = Open(path, "rb");
-  if (!file) {
-    Fail(path, LastError());
-    return std::nullopt;
-  }
-  const std::uintmax_t size = fs::file_size(path, failed);
-  const std::size_t chunk = failed ? 65536 : std::min<std::uintmax_t>(size, MostBytes) + 1;
-  std::string text;
-  std::size_t used = 0;
-  while (used < MostBytes) {
-    text.resize(used + chunk);
-    const std::size_t taken = std::fread(text.data() + used, 1, chunk, file.get());
-    used += taken;
-    if (taken < chunk) {
-      break;
-    }
-  }
-  text.resize(used);
-  return text;
+  return ReadAll(path);
 }
 
 std::string ReadOrEmpty(std::string_view name) {
@@ -199,13 +213,19 @@ std::string ReadOrEmpty(std::string_view name) {
 
 bool WriteTextFile(std::string_view name, std::string_view text) {
   const fs::path existing = FindFile(name);
-  const fs::path path = existing.empty() ? PathOf(name) : existing;
-  std::error_code failed;
-  if (!kept_file.empty() && fs::equivalent(path, kept_file, failed)) {
+  const fs::path path = existing.empty() ? WorkingFolder() / fs::path(name) : existing;
+  if (IsKept(path)) {
     return false;
   }
-  if (!WriteTo(path, text)) {
-    return false;
+  if (holding_back) {
+    Hold(path, std::string(text));
+    return true;
+  }
+  const Replacement replacement = BeginReplacement(path, text);
+  const std::string problem =
+      replacement.problem.empty() ? FinishReplacement(replacement) : replacement.problem;
+  if (!problem.empty()) {
+    return Fail(path, problem);
   }
   FileWritten(path, text.size());
   return true;
@@ -215,7 +235,7 @@ bool CopyTextFile(std::string_view from, std::string_view to) {
   const fs::path source = FindFile(from);
   const fs::path target = FindFile(to);
   std::error_code failed;
-  if (!target.empty() && fs::equivalent(source, target, failed)) {
+  if (source.empty() || source == target || (!target.empty() && fs::equivalent(source, target, failed))) {
     return false;
   }
   const std::optional<std::string> text = ReadTextFile(source);
@@ -224,34 +244,50 @@ bool CopyTextFile(std::string_view from, std::string_view to) {
 
 void DeleteFile(std::string_view name) {
   const fs::path path = FindFile(name);
-  if (path.empty()) {
+  if (path.empty() || IsKept(path)) {
     return;
   }
-  std::error_code failed;
-  const fs::file_status status = fs::status(path, failed);
-  if (fs::exists(status) && !IsWritable(path, status.permissions())) {
-    Fail(path, LastError());
-  } else if (!fs::remove(path, failed)) {
-    Fail(path, failed.message());
+  if (holding_back) {
+    Hold(path, std::nullopt);
+    return;
+  }
+  const std::string problem = WhyNotWritable(path);
+  if (!problem.empty()) {
+    Fail(path, problem);
+  } else {
+    Remove(path);
   }
 }
 
 void DeleteFiles(std::string_view beginning, std::string_view ending) {
-  std::error_code failed;
-  std::vector<std::string> names;
-  for (fs::directory_iterator entry(WorkingFolder(), failed), end; !failed && entry != end;
-       entry.increment(failed)) {
-    const std::string name = LowerCase(entry->path().filename().string());
+  std::vector<fs::path> matching;
+  ForEachFile(WorkingFolder(), [&](const fs::path& file) {
+    const std::string name = LowerCase(file.filename().string());
     if (name.size() >= beginning.size() + ending.size() && name.starts_with(beginning) &&
         name.ends_with(ending)) {
-      names.push_back(entry->path().filename().string());
+      matching.push_back(file);
     }
-  }
-  for (const std::string& name : names) {
-    DeleteFile(name);
+  });
+  for (const fs::path& file : matching) {
+    DeleteFile(file.string());
   }
 }
 
 void KeepAsItIs(const fs::path& path) {
   kept_file = path;
+}
+
+void HoldBackChanges() {
+  holding_back = true;
+}
+
+bool CommitChanges() {
+  holding_back = false;
+  std::vector<Replacement> prepared;
+  const bool done = PrepareHeld(prepared) && FinishHeld(prepared);
+  if (!done) {
+    std::for_each(prepared.begin(), prepared.end(), CancelReplacement);
+  }
+  held.clear();
+  return done;
 }

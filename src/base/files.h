@@ -2,10 +2,10 @@
 // Text files by name: where they are looked for, and reading, replacing, copying and deleting them
 // so that nothing is ever half written.
 //
-// Names are relative to the working folder unless they are whole paths, either kind of separator
-// is accepted, and letter case doesn't count when a file is looked for. Files are read and written
-// whole. A failure changes nothing on disk and is told to FileFailed only: the windows leave that
-// slot empty, the command line program reports from it.
+// Names are relative to the working folder unless they are whole paths, and letter case doesn't
+// count when a file is looked for. Files are read and written whole. A failure changes nothing on
+// disk and is told to FileFailed only: the windows leave that slot empty, the command line program
+// reports from it.
 
 #include <cstddef>
 #include <filesystem>
@@ -24,20 +24,19 @@ void SetDataFolder(const std::filesystem::path& folder);
 /// The data folder of an installed program, or else of the source tree that it was built from.
 std::filesystem::path ShippedDataFolder();
 
-/// The path that a name stands for, whether or not there is such a file.
-std::filesystem::path PathOf(std::string_view name);
 /// An existing file of this name, letter case aside; empty if there is none.
 std::filesystem::path FindFile(std::string_view name);
 /// The same, first in the working folder and then in the data folder.
 std::filesystem::path FindShippedFile(std::string_view name);
 
-/// The bytes of a file, or nothing if it is missing or can't be read.
+/// The bytes of a file, or nothing if it is missing, can't be read, or is larger than any file of
+/// this system can grow to.
 std::optional<std::string> ReadTextFile(const std::filesystem::path& path);
 /// The bytes of a working file, or an empty text: what a stage makes of a missing file.
 std::string ReadOrEmpty(std::string_view name);
 
-/// Creates or replaces a file. It is written beside the old one and moved over it when complete.
-/// A file that can't be written to stays as it is. False if the file was not written.
+/// Creates or replaces a file. A file that can't be written to stays as it is. False if the file
+/// was not written.
 bool WriteTextFile(std::string_view name, std::string_view text);
 
 /// Copies a file's bytes over another; copying a file over itself, or a missing file, does nothing.
@@ -45,11 +44,19 @@ bool CopyTextFile(std::string_view from, std::string_view to);
 
 /// Deletes a working file if it is there. A file that can't be written to stays.
 void DeleteFile(std::string_view name);
-/// Deletes the working files whose names begin and end so, letter case aside.
+/// Deletes the working files whose names begin and end so, letter case aside. Folders stay.
 void DeleteFiles(std::string_view beginning, std::string_view ending);
 
-/// From now on this file is never written to; an empty path lifts that.
+/// From now on this file is neither written to nor deleted; an empty path lifts that.
 void KeepAsItIs(const std::filesystem::path& path);
+
+/// From now on writes and deletes are held back in memory: what follows reads them as if they had
+/// been done, but nothing on disk changes.
+void HoldBackChanges();
+/// Does all that was held back, or nothing of it: every text is written beside its target first,
+/// and only when all of them are there the old files go and the new ones take their names. False,
+/// with the reason told, if nothing was done. Later changes are done at once again.
+bool CommitChanges();
 
 /// Raised for each file that was written whole.
 extern Event<const std::filesystem::path&, std::size_t> FileWritten;

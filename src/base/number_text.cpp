@@ -163,6 +163,9 @@ void AppendGeneral(std::string& out, const Decimal& decimal, int significant) {
 
 template <class Number>
 void AppendNumber(std::string& out, Number value, int significant, std::string_view sign_place) {
+  if (!std::isfinite(value)) {
+    return;
+  }
   if (value == 0) {
     out += sign_place;
     out += '0';
@@ -264,6 +267,9 @@ void AppendWhole(std::string& out, double value) {
 }
 
 void AppendFixedText(std::string& out, double value, int decimals) {
+  if (!HasValue(value)) {
+    return;
+  }
   if (value < 0) {
     out += '-';
   }
@@ -285,4 +291,12 @@ std::string FixedText(double value, int decimals) {
 
 double RoundHalfEven(double value) {
   return std::nearbyint(value);
+}
+
+std::optional<int> ToWhole(double value) {
+  const double whole = RoundHalfEven(value);
+  if (!(whole >= -32768 && whole <= 32767)) {
+    return std::nullopt;
+  }
+  return static_cast<int>(whole);
 }

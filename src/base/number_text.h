@@ -1,7 +1,9 @@
 #pragma once
 // Numbers to texts and back, the same under every locale: the leading numeric part of a text, the
-// print form of files, the masks of the windows and tables, and the whole-number rules.
+// print form of files, the masks of the windows and tables, and the whole-number rules. A number
+// that has no value gives an empty text.
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -38,3 +40,6 @@ void AppendFixedText(std::string& out, double value, int decimals);
 
 /// Nearest whole number, halves to the even one.
 double RoundHalfEven(double value);
+
+/// The same as a whole number of 16 bits, the range of scroll bars; nothing outside of it.
+std::optional<int> ToWhole(double value);

@@ -1,5 +1,7 @@
 #include "base/platform.h"
 
+#include <algorithm>
+#include <csignal>
 #include <cstdlib>
 #include <system_error>
 
@@ -15,7 +17,16 @@
 
 namespace fs = std::filesystem;
 
+std::string WithOwnSeparators(std::string path) {
+  std::replace(path.begin(), path.end(), '\\', PathSeparator);
+  std::replace(path.begin(), path.end(), '/', PathSeparator);
+  return path;
+}
+
 #ifdef _WIN32
+
+void SurviveFileSizeLimit() {
+}
 
 fs::path ProgramFolder() {
   wchar_t name[32768];
@@ -32,6 +43,10 @@ bool StandardErrorIsTerminal() {
 }
 
 #else
+
+void SurviveFileSizeLimit() {
+  std::signal(SIGXFSZ, SIG_IGN);
+}
 
 fs::path ProgramFolder() {
   std::error_code failed;

@@ -58,8 +58,9 @@ class Table {
     return inside ? place : -1;
   }
   static bool Step(int& place, int index, int size) {
-    place = place * size + index;
-    return index >= 0 && index < size;
+    const bool inside = index >= 0 && index < size;
+    place = inside ? place * size + index : -1;
+    return inside;
   }
 
   std::array<double, static_cast<std::size_t>((Sizes * ...))> cells_{};

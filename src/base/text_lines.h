@@ -63,7 +63,10 @@ class TextReader {
     if (AtEnd()) {
       return false;
     }
+    const std::size_t start = at_;
     item = Take([](char c) { return c == ',' || c == ' ' || c == '\t'; });
+    at_ = start + item.size();
+    SkipSeparator();
     return true;
   }
 
@@ -74,6 +77,17 @@ class TextReader {
     }
   }
 
+  /// Blanks with at most one comma or line end among them part two items.
+  void SkipSeparator() {
+    SkipBlanks();
+    if (!AtEnd() && (text_[at_] == ',' || text_[at_] == '\r' || text_[at_] == '\n')) {
+      PassDelimiter();
+    }
+  }
+
+  /// One character, or CR LF as one.
+  void PassDelimiter() { at_ += text_.compare(at_, LineEnd.size(), LineEnd) == 0 ? 2 : 1; }
+
   /// Up to a line end or a character that parts items, which is passed over, CR LF as one.
   template <class PartsItems>
   std::string_view Take(PartsItems parts_items) {
@@ -83,7 +97,7 @@ class TextReader {
     }
     const std::string_view taken = text_.substr(start, at_ - start);
     if (!AtEnd()) {
-      at_ += text_.compare(at_, LineEnd.size(), LineEnd) == 0 ? 2 : 1;
+      PassDelimiter();
     }
     return taken;
   }

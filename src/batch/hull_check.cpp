@@ -3,7 +3,6 @@
 #include <cmath>
 
 #include "base/number_text.h"
-#include "base/skipped_statement.h"
 #include "base/text_lines.h"
 #include "hull/hull_file.h"
 #include "hull/hull_model.h"
@@ -18,13 +17,16 @@ struct Section {
   bool may_be_empty;
 };
 
+/// A number as large as this is a fault of the file, and formulas on it would overflow.
+constexpr double BeyondAnyBoat = 1e9;
+
 bool IsBlank(std::string_view text) {
   return text.find_first_not_of(" \t") == std::string_view::npos;
 }
 
 bool IsNumber(std::string_view text) {
   const std::size_t length = NumericLength(text);
-  return length > 0 && IsBlank(text.substr(length)) && HasValue(NumberOf(text));
+  return length > 0 && IsBlank(text.substr(length)) && std::abs(NumberOf(text)) <= BeyondAnyBoat;
 }
 
 /// A line as a message can show it: short, and printable whatever the file holds.
@@ -46,7 +48,7 @@ class Checker {
     const int hull_points = 3 * Stations * chines;
     const Section sections[] = {
         {"offset", 3 * Bulkheads * chines, true, false},
-        {"auto-spline mark", 1, true, false},
+        {"auto-spline mark", 1, true, true},
         {"hull point", hull_points, true, true},
         {"frame", FrameCount, true, true},
         {"rig box", 7, false, true},
@@ -96,10 +98,14 @@ class Checker {
     done_ = true;
     const std::string missing = std::string("the file ends here, ahead of ") + section.name + " line " +
                                 std::to_string(found + 1) + " of " + std::to_string(section.lines);
+    const std::string_view name = section.name;
     if (!past_offsets) {
       result_.error = missing;
-    } else if (std::string_view(section.name) != "auto-spline mark") {
-      result_.warning = missing + "; what is missing reads as 0";
+    } else if (name == "hull point" && found == 0) {
+      result_.warning =
+          "the file ends here, behind its auto-spline mark; it is read as one of the older kind";
+    } else if (name != "auto-spline mark") {
+      result_.warning = missing + "; what is missing is read as 0 or empty";
     }
   }
 

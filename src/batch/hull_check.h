@@ -11,7 +11,8 @@ struct HullCheck {
   std::string warning;  ///< what is odd about a file that can be read
 };
 
-/// Refuses a count of chines that is not a whole number from 2 to 30, offsets that are missing or
-/// no numbers, and texts where numbers must be. Warns of a file that ends behind its offsets but
-/// before its last field; one that ends right behind them is a sound file of the older kind.
+/// Refuses a count of chines that is not a whole number from 2 to 30, offsets that are missing, and
+/// texts, or sizes beyond any boat, where numbers must be. Warns of a file that ends behind its
+/// offsets but before its last field; one that ends right behind them is a sound file of the older
+/// kind.
 HullCheck CheckHull(std::string_view text);

@@ -1,10 +1,15 @@
 // The command line program: its arguments, and the exit status 0 done, 1 could not do it, 2 usage.
 
 #include <CLI/CLI.hpp>
-#include <cmath>
 #include <functional>
 #include <iostream>
+#include <memory>
+#include <string>
+#include <utility>
 
+#include "base/number_text.h"
+#include "base/platform.h"
+#include "base/skipped_statement.h"
 #include "batch/commands.h"
 #include "batch/report.h"
 
@@ -19,7 +24,8 @@ class SynopsisFormatter : public CLI::Formatter {
     return "SYNOPSIS\n" + synopsis_ + "\n";
   }
   std::string make_description(const CLI::App* app) const override {
-    return "NAME\n  " + app->get_description() + "\n\n";
+    const std::string name = app->get_parent() == nullptr ? "" : " " + app->get_name();
+    return "NAME\n  tarve-batch" + name + " - " + app->get_description() + "\n\n";
   }
   std::string make_positionals(const CLI::App* /*app*/) const override { return {}; }
 
@@ -47,19 +53,28 @@ std::string CheckTime(const std::string& text) {
   return fits ? "" : "expected a time as HH:MM:SS, found " + text;
 }
 
+std::string CheckInches(const std::string& text) {
+  const bool fits = NumericLength(text) == text.size() && !text.empty() && HasValue(NumberOf(text));
+  return fits ? "" : "expected inches, found " + text;
+}
+
+std::string CheckNotEmpty(const std::string& text) {
+  return text.empty() ? "expected a name, found an empty one" : "";
+}
+
 constexpr const char* HullHelp =
     "\nHULL\n  A hull file (.tvh). Without it, the built-in hull. The file is only read.\n";
 
 void AddPatterns(CLI::App& app, PatternsArguments& arguments, std::function<int()>& run) {
-  CLI::App* const command =
-      app.add_subcommand("patterns", "tarve-batch patterns - full-size patterns of a hull");
+  CLI::App* const command = app.add_subcommand("patterns", "full-size patterns of a hull");
   command->formatter(std::make_shared<SynopsisFormatter>(
       "  tarve-batch patterns [HULL] [--into DIR] [--keel] [--deck] [--soles] [--stem]\n"
       "              [--spar] [--text] [--half-frames] [--frame Z]... [--dxf] [--hpgl]\n"
       "              [--export-path DIR] [--date MM-DD-YYYY] [--time HH:MM:SS]"));
-  command->add_option("hull", arguments.hull);
+  command->add_option("hull", arguments.hull)->check(CheckNotEmpty);
   command->add_option("--into", arguments.into, "Working folder, made if missing; the current one otherwise")
-      ->type_name("DIR");
+      ->type_name("DIR")
+      ->check(CheckNotEmpty);
   command->add_flag("--keel", arguments.keel, "Bottom panel across the centre line at chine 1");
   command->add_flag("--deck", arguments.deck, "Deck panel across the centre line at the top chine");
   command->add_flag("--soles", arguments.soles, "Sole panels at chines 2 and 3");
@@ -68,19 +83,19 @@ void AddPatterns(CLI::App& app, PatternsArguments& arguments, std::function<int(
   command->add_flag("--text", arguments.text, "Lettering");
   command->add_flag("--half-frames", arguments.half_frames, "One side only of bulkheads, frames and transom");
   command
-      ->add_option("--frame", arguments.frames,
-                   "A frame Z inches aft of the stem; up to eight. They replace the hull's own frames")
+      ->add_option(
+          "--frame", arguments.frames,
+          "A frame Z inches aft of the stem (its sign doesn't count), up to eight; instead of the hull's own")
       ->type_name("Z")
       ->allow_extra_args(false)
-      ->check([](const std::string& text) {
-        return std::isfinite(std::strtod(text.c_str(), nullptr)) ? "" : "expected inches, found " + text;
-      });
+      ->check(CheckInches);
   command->add_flag("--dxf", arguments.dxf, "DXF copies of all patterns");
   command->add_flag("--hpgl", arguments.hpgl, "HPGL copies of all patterns");
   command
       ->add_option("--export-path", arguments.export_path,
-                   "Folder for the copies; the working folder otherwise")
-      ->type_name("DIR");
+                   "Folder for the copies, from the current one; the working folder otherwise")
+      ->type_name("DIR")
+      ->check(CheckNotEmpty);
   command->add_option("--date", arguments.date, "Date to write instead of today's")
       ->type_name("MM-DD-YYYY")
       ->check(CheckDate);
@@ -98,10 +113,9 @@ void AddPatterns(CLI::App& app, PatternsArguments& arguments, std::function<int(
 }
 
 void AddPoints(CLI::App& app, PointsArguments& arguments, std::function<int()>& run) {
-  CLI::App* const command =
-      app.add_subcommand("points", "tarve-batch points - the interpolated hull as a table");
+  CLI::App* const command = app.add_subcommand("points", "the interpolated hull as a table");
   command->formatter(std::make_shared<SynopsisFormatter>("  tarve-batch points [HULL] [--format csv|json]"));
-  command->add_option("hull", arguments.hull);
+  command->add_option("hull", arguments.hull)->check(CheckNotEmpty);
   command->add_option("--format", arguments.format, "csv (the usual one) or json")
       ->type_name("FORMAT")
       ->check(CLI::IsMember({"csv", "json"}));
@@ -111,10 +125,12 @@ void AddPoints(CLI::App& app, PointsArguments& arguments, std::function<int()>& 
 }
 
 int Run(int argc, char** argv) {
-  CLI::App app("tarve-batch - work on hull files without a window");
+  CLI::App app("work on hull files without a window");
   app.formatter(std::make_shared<SynopsisFormatter>(
       "  tarve-batch COMMAND [ARGUMENT]...\n  tarve-batch COMMAND --help"));
-  app.footer("\nEXAMPLE\n  tarve-batch patterns dory.tvh --into dory --text --dxf\n");
+  app.footer(
+      "\nEXIT STATUS\n  0 done, 1 could not do it (standard error says why), 2 wrong usage\n\nEXAMPLE\n  "
+      "tarve-batch patterns dory.tvh --into dory --text --dxf\n");
   app.require_subcommand(1);
   PatternsArguments patterns;
   PointsArguments points;
@@ -123,8 +139,14 @@ int Run(int argc, char** argv) {
   AddPoints(app, points, run);
   try {
     app.parse(argc, argv);
+  } catch (const CLI::RequiredError&) {
+    Complain("expected a command; see tarve-batch --help");
+    return WrongUsage;
+  } catch (const CLI::Success& help) {
+    return app.exit(help);
   } catch (const CLI::ParseError& error) {
-    return app.exit(error) == 0 ? Done : WrongUsage;
+    Complain(error.what());
+    return WrongUsage;
   }
   return run();
 }
@@ -132,6 +154,7 @@ int Run(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  SurviveFileSizeLimit();
   try {
     const int status = Run(argc, argv);
     std::cout.flush();

@@ -12,7 +12,12 @@
 bool OpenHull(const std::string& path) {
   std::optional<std::string> text;
   if (!path.empty()) {
-    text = ReadTextFile(std::filesystem::path(path));
+    const std::filesystem::path file = FindFile(path);
+    if (file.empty()) {
+      Complain(path + ": no such hull file");
+      return false;
+    }
+    text = ReadTextFile(file);
     if (!text) {
       ComplainAboutFiles();
       return false;

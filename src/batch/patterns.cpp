@@ -1,43 +1,37 @@
 #include <chrono>
-#include <cstdio>
 #include <filesystem>
 #include <iostream>
-#include <optional>
 
 #include "base/clock.h"
 #include "base/files.h"
+#include "base/text_case.h"
 #include "batch/commands.h"
 #include "batch/report.h"
 #include "controls/forms.h"
 #include "hull/hull_model.h"
+#include "hull/plot_scale.h"
 #include "panels/save_dialog.h"
 
 namespace fs = std::filesystem;
 
 namespace {
 
-/// Makes a folder if it is missing; its whole path, or nothing (and a complaint) if it can't be
-/// made or written to.
-std::optional<fs::path> FolderToWriteIn(const std::string& name) {
+/// The whole path of a folder, without a separator at its end.
+fs::path FolderPath(const std::string& name) {
+  const fs::path folder = fs::absolute(name).lexically_normal();
+  return folder.has_filename() ? folder : folder.parent_path();
+}
+
+/// Makes a folder if it is missing. False, and a complaint, if it can't be made.
+bool MakeFolder(const fs::path& folder) {
   std::error_code failed;
-  fs::path folder = fs::absolute(name, failed).lexically_normal();
-  if (!folder.has_filename()) {
-    folder = folder.parent_path();
-  }
   fs::create_directories(folder, failed);
-  if (failed || !fs::is_directory(folder, failed)) {
-    Complain(name + ": expected a folder to write in: " + (failed ? failed.message() : "is a file"));
-    return std::nullopt;
+  if (!fs::is_directory(folder)) {
+    Complain(folder.string() +
+             ": expected a folder to write in: " + (failed ? failed.message() : "is a file"));
+    return false;
   }
-  const fs::path probe = folder / ".tarve-batch";
-  std::FILE* const file = std::fopen(probe.string().c_str(), "wb");
-  if (file == nullptr) {
-    Complain(name + ": expected a folder to write in: " + std::generic_category().message(errno));
-    return std::nullopt;
-  }
-  std::fclose(file);
-  fs::remove(probe, failed);
-  return folder;
+  return true;
 }
 
 void SetCheckBoxes(const PatternsArguments& arguments) {
@@ -60,12 +54,24 @@ void ReplaceFrames(const std::vector<double>& frames) {
   }
 }
 
+/// Whether a hull file's own name is one that the run itself writes or deletes: its copy would take
+/// the place of a pattern, or a pattern that of the copy.
+bool NameIsTaken(const std::string& name) {
+  const std::string lower = LowerCase(name);
+  for (const char* ending : {".uc", ".tri", ".plt", ".dxf"}) {
+    if (lower.ends_with(ending)) {
+      return true;
+    }
+  }
+  return lower == "temp" || lower == "handplot.txt";
+}
+
 /// The hull file is left as it was, even where its copy would go.
 void ProtectHull(const std::string& hull, const fs::path& folder) {
   std::error_code failed;
-  const fs::path own = fs::canonical(hull, failed);
-  KeepAsItIs(own);
-  if (fs::equivalent(own, folder / own.filename(), failed)) {
+  const fs::path own = FindFile(hull);
+  KeepAsItIs(fs::absolute(own));
+  if (fs::equivalent(own, folder / HullFileName, failed)) {
     Complain(hull + ": note: the hull file stays as it is, no copy is saved beside it");
   }
 }
@@ -89,25 +95,34 @@ int RunPatterns(const PatternsArguments& arguments) {
   const auto start = std::chrono::steady_clock::now();
   WatchFiles();
   FixClock(arguments.date, arguments.time);
-  SetWorkingFolder(fs::absolute(arguments.into));
   if (!OpenHull(arguments.hull)) {
     return CouldNot;
   }
-  const std::optional<fs::path> folder = FolderToWriteIn(arguments.into);
-  const std::string& exports = arguments.export_path.empty() ? arguments.into : arguments.export_path;
-  const std::optional<fs::path> export_folder = folder ? FolderToWriteIn(exports) : std::nullopt;
-  if (!folder || !export_folder) {
-    return CouldNot;
+  if (NameIsTaken(HullFileName)) {
+    return Complain(HullFileName +
+                    ": expected a hull file with a name that no pattern has, such as boat.tvh");
   }
-  SetWorkingFolder(*folder);
+  const fs::path folder = FolderPath(arguments.into);
+  const fs::path export_folder = arguments.export_path.empty() ? folder : FolderPath(arguments.export_path);
   if (!arguments.hull.empty()) {
-    ProtectHull(arguments.hull, *folder);
+    ProtectHull(arguments.hull, folder);
+  }
+  SetWorkingFolder(folder);
+  ReadPlotScale();
+  if (arguments.text && FindShippedFile("pedit.fnt").empty()) {
+    return Complain("pedit.fnt: expected the stroke font in " + folder.string() +
+                    " or the program's data folder");
   }
   ShowProgress();
-  PressSave(arguments, *export_folder);
+  HoldBackChanges();
+  PressSave(arguments, export_folder);
   EndProgress();
-  ListFiles(*folder);
+  const bool done = MakeFolder(folder) && MakeFolder(export_folder) && CommitChanges();
+  if (ComplainAboutFiles() || !done) {
+    return CouldNot;
+  }
+  ListFiles(folder);
   const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
   std::cout << "done in " << taken.count() << " s\n";
-  return ComplainAboutFiles() ? CouldNot : Done;
+  return Done;
 }

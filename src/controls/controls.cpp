@@ -1,17 +1,43 @@
 #include "controls/controls.h"
 
+void ScrollBar::SetMin(int min) {
+  min_ = min;
+  Show();
+}
+
 void ScrollBar::SetMax(int max) {
   max_ = max;
-  const int value = Value_;
-  if (value > High()) {
-    Value_ = High();
-  } else if (*Min > max_ && value < Low()) {
-    Value_ = Low();
+  Show();
+  if (value_ > High()) {
+    SetValue(High());
+  } else if (min_ > max_ && value_ < Low()) {
+    SetValue(Low());
   }
 }
 
 void ScrollBar::SetValue(int value) {
-  if (value >= Low() && value <= High()) {
-    Value_ = value;
+  if (value < Low() || value > High() || value == value_) {
+    return;
   }
+  value_ = value;
+  Show();
+  Change();
+}
+
+void ComboBox::AddRow(std::string row) {
+  rows_.push_back(std::move(row));
+}
+
+void ComboBox::Clear() {
+  rows_.clear();
+  list_index_ = -1;
+}
+
+void ComboBox::SetListIndex(int row) {
+  if (row < 0 || row >= static_cast<int>(rows_.size())) {
+    return;
+  }
+  list_index_ = row;
+  Text = rows_[static_cast<std::size_t>(row)];
+  Click();
 }

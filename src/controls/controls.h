@@ -5,6 +5,8 @@
 
 #include <array>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "controls/property.h"
 
@@ -13,8 +15,9 @@ struct Label {
 };
 
 struct TextBox {
+  explicit TextBox(std::string text = {}) : Text(Change, std::move(text)) {}
   Event<> Change;
-  Property<std::string> Text{Change};
+  Property<std::string> Text;
 };
 
 struct CheckBox {
@@ -23,21 +26,21 @@ struct CheckBox {
   Property<bool> Value;
 };
 
-/// One of a pair: choosing it takes the choice from the other.
+/// One of a pair: choosing it takes the choice from the other. Click comes to the chosen one only.
 class OptionButton {
  public:
-  explicit OptionButton(OptionButton* other) : Value(chosen_) {
-    chosen_ = [this, other] {
+  explicit OptionButton(OptionButton* other) : Value(changed_) {
+    changed_ = [this, other] {
       if (Value) {
         other->Value = false;
+        Click();
       }
-      Click();
     };
   }
   Event<> Click;
 
  private:
-  Event<> chosen_;
+  Event<> changed_;
 
  public:
   Property<bool> Value;
@@ -56,26 +59,57 @@ struct MenuItem {
 /// The ends may be reversed (Min above Max); the value then lies between Max and Min.
 class ScrollBar {
  public:
-  ScrollBar(int min, int max, int value) : Min(min), max_(max), Value_(Change, value) {}
+  static constexpr int SmallChange = 1;
+
+  ScrollBar(int min, int max, int value) : min_(min), max_(max), value_(value) {}
 
   Event<> Change;
-  /// Setting it never moves the value.
-  Property<int> Min;
+  /// The face's slot: put the ends and the value on the screen.
+  Event<> Show;
+  Property<bool> Visible;
+
+  int Min() const { return min_; }
+  /// Never moves the value.
+  void SetMin(int min);
 
   int Max() const { return max_; }
   /// A value beyond the new end is brought to the nearer of the two ends, which raises Change.
   void SetMax(int max);
 
-  int Value() const { return Value_; }
-  /// A value outside of the two ends is a failed statement.
+  int Value() const { return value_; }
+  /// A value outside of the two ends is a failed statement; the value it has raises nothing.
   void SetValue(int value);
 
- private:
-  int Low() const { return *Min < max_ ? *Min : max_; }
-  int High() const { return *Min < max_ ? max_ : *Min; }
+  int Low() const { return min_ < max_ ? min_ : max_; }
+  int High() const { return min_ < max_ ? max_ : min_; }
 
+ private:
+  int min_;
   int max_;
-  Property<int> Value_;
+  int value_;
+};
+
+/// A drop-down list: the user's choice shows in its edit line.
+class ComboBox {
+ public:
+  Event<> Click;
+  Property<bool> Visible;
+  Property<std::string> Text;
+
+  const std::vector<std::string>& Rows() const { return rows_; }
+  void AddRow(std::string row);
+  /// Takes all rows and the choice away; the edit line stays.
+  void Clear();
+
+  /// The chosen row from 0, -1 for none.
+  int ListIndex() const { return list_index_; }
+  /// Chooses a row, shows it in the edit line and raises Click. A row that isn't there is a failed
+  /// statement.
+  void SetListIndex(int row);
+
+ private:
+  std::vector<std::string> rows_;
+  int list_index_ = -1;
 };
 
 /// A list of the files of one folder; what the user's click leaves chosen.

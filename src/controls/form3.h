@@ -6,7 +6,7 @@
 #include "controls/controls.h"
 
 struct SaveWindow {
-  TextBox Text1;  ///< file name
+  TextBox Text1{"default.tvh"};  ///< file name
   FileListBox File1;
 
   TextBox Text2;  ///< designer

@@ -16,9 +16,11 @@ class Property {
       : value_(std::move(start)), changed_(&changed) {}
 
   Property(const Property&) = delete;
+  Property& operator=(const Property& other) { return *this = other.value_; }
 
   operator const Value&() const { return value_; }
   const Value& operator*() const { return value_; }
+  const Value* operator->() const { return &value_; }
 
   Property& operator=(Value value) {
     if (value == value_) {

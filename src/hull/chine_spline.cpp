@@ -70,8 +70,8 @@ void SetCoefficients(Spline& s) {
   }
 }
 
-/// Calls take(n, z, v) for every sample, the span's number of them in steps of a third of the span
-/// and 0.1. The 0.1 keeps the third step from landing on the next bulkhead. Returns the last n.
+/// Calls take(n, z, v) for every sample. Each span is walked in steps of a third of it and 0.1; the
+/// 0.1 keeps the third step from landing on the next bulkhead. Returns the last n.
 template <class Take>
 int SampleSpans(const Spline& s, Take take) {
   int n = 0;
@@ -216,6 +216,10 @@ void SplineChineX(int chine) {
 }
 
 void RecomputeHull() {
+  if (UprightPts) {
+    HullPts = *UprightPts;
+    UprightPts.reset();
+  }
   CleanOffsets();
   Store(ViewMargin, HullMaxX / 25);
   MaxHalfBeam = 0;

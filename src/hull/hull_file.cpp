@@ -1,6 +1,7 @@
 #include "hull/hull_file.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "base/files.h"
 #include "base/number_text.h"
@@ -157,10 +158,11 @@ void PutOffsets(std::string& out) {
 }
 
 void PutHullPoints(std::string& out) {
+  const PointTable& points = UprightPts ? *UprightPts : HullPts;
   for (int s = 1; s <= Stations; ++s) {
     for (int c = 1; c <= NumChines; ++c) {
       for (int coordinate = 1; coordinate <= 3; ++coordinate) {
-        PutNumber(out, HullPts(coordinate, s, c));
+        PutNumber(out, points(coordinate, s, c));
       }
     }
   }
@@ -190,8 +192,9 @@ std::string WithPoints(std::string_view text) {
 void NormalizeHullFile(std::string_view path) {
   const std::optional<std::string> text = ReadTextFile(FindFile(path));
   if (text) {
-    WriteTextFile("temp.txt", WithPoints(*text));
-    CopyTextFile("temp.txt", path);
+    const std::string changed = WithPoints(*text);
+    WriteTextFile("temp.txt", changed);
+    WriteTextFile(path, changed);
   }
 }
 

@@ -6,6 +6,7 @@ OffsetTable OffX;
 OffsetTable OffY;
 OffsetTable OffZ;
 PointTable HullPts;
+std::optional<PointTable> UprightPts;
 std::array<FramePlace, FrameCount> FrameZ;
 
 int NumChines = 4;
@@ -85,6 +86,7 @@ void EraseHull() {
   OffY.Erase();
   OffZ.Erase();
   HullPts.Erase();
+  UprightPts.reset();
 }
 
 void SetDefaultHull() {

@@ -7,6 +7,7 @@
 // After a change of the offsets Form1.Refresh() rebuilds all that follows from them.
 
 #include <array>
+#include <optional>
 #include <string>
 #include <variant>
 
@@ -29,6 +30,10 @@ extern OffsetTable OffZ;
 /// AutoSpline is checked, by the mouse and the hull file while it is not.
 using PointTable = Table<4, Stations + 1, MostChines + 1>;
 extern PointTable HullPts;
+
+/// The upright hull points, kept while HullPts is heeled and AutoSpline is not checked: nothing else
+/// could bring them back then. The next recompute puts them back; a save takes these.
+extern std::optional<PointTable> UprightPts;
 
 /// The place of an extra section: never set, a number of inches, or the text of a hull file's line
 /// that waits to be taken as a number. 0 or less, and a place never set, mean no frame.

@@ -37,6 +37,10 @@ void ReadCalibration(const std::string& text) {
   }
 }
 
+double PlotUnits(double inches, double scale) {
+  return std::floor(inches * scale);
+}
+
 }  // namespace
 
 void ReadPlotScale() {
@@ -47,10 +51,6 @@ void ReadPlotScale() {
   for (double* scale : {&PlotXScale, &PlotYScale}) {
     *scale = *scale == 0 ? UsualScale : std::abs(*scale);
   }
-}
-
-double PlotUnits(double inches, double scale) {
-  return std::floor(inches * scale);
 }
 
 void PutMove(std::string& out, double x, double y) {

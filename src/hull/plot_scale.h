@@ -12,11 +12,8 @@ extern double PlotYScale;
 /// a scale of 0 becomes 500, and a negative one counts by its magnitude.
 void ReadPlotScale();
 
-/// floor(inches x scale), toward minus infinity.
-double PlotUnits(double inches, double scale);
-
-/// Appends the coordinate line of a point in inches: "1204 -87 acut". A point that has no value
-/// gives no line.
+/// Appends the coordinate line of a point in inches, floor(inches x scale) toward minus infinity:
+/// "1204 -87 acut". A point that has no value gives no line.
 void PutMove(std::string& out, double x, double y);
 
 /// Appends "start_plot" and the head comment of flat parts and the waterplane.

@@ -13,17 +13,20 @@ namespace {
 
 /// A point as the texts of its coordinates: most points end one line and start the next.
 struct PointText {
+  static void Set(std::string& text, double value) {
+    if (HasValue(value)) {
+      text.clear();
+      AppendPrintText(text, value);
+    }
+  }
+
   std::string x = " 0 ";
   std::string y = " 0 ";
 
   void Read(std::string_view line) {
     const PlotPoint p = ReadMove(line);
-    if (HasValue(p.x) && HasValue(p.y)) {
-      x.clear();
-      AppendPrintText(x, p.x);
-      y.clear();
-      AppendPrintText(y, p.y);
-    }
+    Set(x, p.x);
+    Set(y, p.y);
   }
 };
 
@@ -78,7 +81,7 @@ std::string DxfOfPattern(std::string_view pattern, DxfPen& pen) {
     } else if (Contains(line, "pendown")) {
       pen.down = true;
     } else if (Contains(line, "acut") || Contains(line, "aline")) {
-      std::swap(last, current);
+      last = current;
       current.Read(line);
       if (pen.down) {
         PutDxfLine(out, last, current);

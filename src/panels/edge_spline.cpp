@@ -25,7 +25,6 @@ struct Curve {
 
 /// Second derivatives at the knots; both ends are natural.
 KnotTable SecondDerivatives(const KnotTable& v, int n) {
-  const double side = h;
   KnotTable diagonal;
   KnotTable right;
   for (int j = 1; j <= n - 2; ++j) {
@@ -33,13 +32,13 @@ KnotTable SecondDerivatives(const KnotTable& v, int n) {
     right(j) = 6 * (v(j + 2) - v(j + 1)) / h - 6 * (v(j + 1) - v(j)) / h;
   }
   for (int j = 2; j <= n - 2; ++j) {
-    const double factor = side / diagonal(j - 1);
-    diagonal(j) = diagonal(j) - factor * side;
+    const double factor = h / diagonal(j - 1);
+    diagonal(j) = diagonal(j) - factor * h;
     right(j) = right(j) - factor * right(j - 1);
   }
   right(n - 2) = right(n - 2) / diagonal(n - 2);
   for (int j = n - 3; j >= 1; --j) {
-    right(j) = (right(j) - side * right(j + 1)) / diagonal(j);
+    right(j) = (right(j) - h * right(j + 1)) / diagonal(j);
   }
   KnotTable M;
   for (int j = 1; j <= n - 2; ++j) {

@@ -15,7 +15,7 @@ struct FlatPanel {
   std::array<PlotPoint, 25> B{};
   std::array<PlotPoint, 25> C{};
   std::array<PlotPoint, 25> D{};
-  std::size_t end = 0;  ///< the first triangle behind the panel, at most 24
+  std::size_t end = 0;  ///< the first triangle behind the panel
 
   /// Extents of all triangles but the first.
   double min_x = 500000;

@@ -1,5 +1,6 @@
 #include "panels/hand_plot.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "base/clock.h"

@@ -89,6 +89,9 @@ class ViewWriter {
   }
   void PutVertex(const Vertex& hull) {
     const Vertex at = view_(hull, M_);
+    if (!HasValue(at.x) || !HasValue(at.y) || !HasValue(at.z)) {
+      return;
+    }
     out_ += DxfVertex;
     PutGroup(" 10\r\n", at.x);
     PutGroup(" 20\r\n", at.y);
@@ -111,7 +114,7 @@ std::string HullDrawingName(std::string_view hull_file) {
   const std::size_t folder = hull_file.find_last_of("/\\");
   const std::size_t own_name = folder == std::string_view::npos ? 0 : folder + 1;
   const std::size_t dot = hull_file.find('.', own_name);
-  return std::string(hull_file.substr(0, dot)) + ".dxf";
+  return std::string(hull_file.substr(0, dot)) + ".";
 }
 
 std::string HullDxf() {
@@ -128,6 +131,6 @@ std::string HullDxf() {
 
 void WriteHullDxf() {
   const std::string name = HullDrawingName(HullFileName);
-  Form1.StatusBar1.Panels[1] = "Saving hull drawing " + name + "...";
-  WriteTextFile(name, HullDxf());
+  Form1.StatusBar1.Panels[1] = "Saving hull drawing " + name + "DXF...";
+  WriteTextFile(name + "dxf", HullDxf());
 }

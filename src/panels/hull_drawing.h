@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
-/// The name of the drawing that belongs to a hull file: up to the first dot of the file's own name
-/// (a dot in a folder's name doesn't count) and "dxf".
+/// The name of the drawing that belongs to a hull file, ahead of its ending: up to and including
+/// the first dot of the file's own name (a dot in a folder's name doesn't count).
 std::string HullDrawingName(std::string_view hull_file);
 
 /// The drawing from HullPts (along the chines) and the offsets (across): body view, profile moved
@@ -13,5 +13,5 @@ std::string HullDrawingName(std::string_view hull_file);
 /// times along y.
 std::string HullDxf();
 
-/// Writes the drawing of HullFileName and says so in panel 1.
+/// Writes the drawing of HullFileName, ending "dxf", and says so in panel 1, there in capitals.
 void WriteHullDxf();

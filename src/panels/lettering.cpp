@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <filesystem>
+#include <utility>
 #include <vector>
 
 #include "base/files.h"
@@ -44,7 +45,9 @@ StrokeFont ReadFont(std::string_view text) {
       const double y = number();
       glyph.points.push_back({x, y});
     }
-    font.push_back(std::move(glyph));
+    if (!glyph.points.empty()) {
+      font.push_back(std::move(glyph));
+    }
   }
   return font;
 }

@@ -1,6 +1,7 @@
 #include "panels/leveling.h"
 
 #include <cmath>
+#include <optional>
 
 #include "base/files.h"
 #include "base/number_text.h"
@@ -31,10 +32,14 @@ void PutTurned(std::string& out, std::string_view line, double cosine, double si
 
 void LevelOnePattern(const std::string& name, double& slope) {
   Form1.StatusBar1.Panels[1] = "Leveling..." + name;
-  const std::string pattern = ReadOrEmpty(name);
-  Store(slope, FittedSlope(pattern));
-  WriteTextFile("temp", LeveledPattern(pattern, slope));
-  CopyTextFile("temp", name);
+  const std::optional<std::string> pattern = ReadTextFile(FindFile(name));
+  if (!pattern) {
+    return;
+  }
+  Store(slope, FittedSlope(*pattern));
+  const std::string leveled = LeveledPattern(*pattern, slope);
+  WriteTextFile("temp", leveled);
+  WriteTextFile(name, leveled);
 }
 
 }  // namespace

@@ -13,5 +13,6 @@ double FittedSlope(std::string_view pattern);
 std::string LeveledPattern(std::string_view pattern, double slope);
 
 /// Levels the developed panels in place by way of the scratch file "temp", which stays. A panel
-/// without a slope of its own takes that of the panel before, the first one 0.
+/// without a slope of its own takes that of the panel before, the first one 0; a missing panel is
+/// passed over.
 void LevelPatterns();

@@ -3,6 +3,7 @@
 
 /// With Form3's Check1 on: triangle files, flat parts, hull drawing, developed panels, leveling,
 /// hand plotting table, and HPGL and DXF if asked for; then, in any case, the hull file and its copy
-/// "default.tvh". All but exports and hull drawing go to the working folder. No stage stops the
+/// "default.tvh". Exports go to ExportPath, the hull drawing beside the hull file, all else to the
+/// working folder. No stage stops the
 /// chain; progress is told in panel 1.
 void SaveAndCreate();

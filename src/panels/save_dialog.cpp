@@ -21,6 +21,17 @@ std::array<CheckBox*, 10> SettingsBoxes() {
           &Form3.Check2, &Form3.Check7, &Form3.Check8, &Form3.Check9, &Form3.Check10};
 }
 
+/// The first so many characters of a UTF-8 text, never a part of one.
+std::string FirstCharacters(const std::string& text, int count) {
+  const auto starts_character = [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; };
+  std::size_t end = 0;
+  while (end < text.size() && (count > 0 || !starts_character(text[end]))) {
+    count -= starts_character(text[end]) ? 1 : 0;
+    ++end;
+  }
+  return text.substr(0, end);
+}
+
 void FillBoxes() {
   for (int i = 0; i < FrameCount; ++i) {
     Form3.FrameText[static_cast<std::size_t>(i)].Text = FrameBoxText(i);
@@ -46,8 +57,8 @@ void Dummy4_Click() {
 void Form3_Text1_Change() {
   const std::string typed = Form3.Text1.Text;
   const std::size_t dot = typed.find('.');
-  Form3.Text1.Text = (dot == std::string::npos ? typed.substr(0, 8) : typed.substr(0, dot)) + ".tvh";
-  HullFileName = Form3.Text1.Text;
+  Form3.Text1.Text = (dot == std::string::npos ? FirstCharacters(typed, 8) : typed.substr(0, dot)) + ".tvh";
+  HullFileName = WithOwnSeparators(Form3.Text1.Text);
 }
 
 void Form3_Text2_Change() {
@@ -67,8 +78,8 @@ void Form3_Text5_Change() {
 }
 
 void Form3_Text6_Change() {
-  ExportPath = Form3.Text6.Text;
-  if (ExportPath.empty() || (ExportPath.back() != '/' && ExportPath.back() != '\\')) {
+  ExportPath = WithOwnSeparators(Form3.Text6.Text);
+  if (ExportPath.empty() || ExportPath.back() != PathSeparator) {
     ExportPath += PathSeparator;
   }
 }
@@ -95,6 +106,12 @@ void ReadSaveSettings() {
   }
   if (in.ReadItem(item)) {
     Form3.Text6.Text = std::string(item);
+  }
+}
+
+void OfferExportPath() {
+  if (Form3.Text6.Text->empty()) {
+    Form3.Text6.Text = WorkingFolder().string();
   }
 }
 

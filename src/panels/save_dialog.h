@@ -23,5 +23,8 @@ void FrameText_Change(int index);
 /// Reads "hull.dat", if it exists, into the check boxes and the export path.
 void ReadSaveSettings();
 
+/// Puts the working folder into an empty export path.
+void OfferExportPath();
+
 /// Writes "hull.dat" anew from them.
 void WriteSaveSettings();

@@ -12,18 +12,35 @@ class DrawSurface {
  public:
   /// A colour argument that stands for the surface's foreground colour.
   static constexpr int Foreground = -1;
+  /// A whole turn, in radians: the end of an arc that is a full circle.
+  static constexpr double FullTurn = 6.283185307179586;
 
   virtual ~DrawSurface() = default;
 
-  /// Clears to the background.
+  /// Clears to the background; the current point becomes the top left.
   virtual void Cls() {}
   /// x1 is the left edge, x2 the right, y1 the top, y2 the bottom. An empty range is refused and
   /// the earlier scale stays.
   virtual void Scale(double /*x1*/, double /*y1*/, double /*x2*/, double /*y2*/) {}
   /// One straight segment; its end becomes the current point.
   virtual void Line(double /*x1*/, double /*y1*/, double /*x2*/, double /*y2*/, int /*colour*/) {}
+  /// A segment from the current point.
+  virtual void LineTo(double /*x2*/, double /*y2*/, int /*colour*/) {}
+  /// One pixel, which becomes the current point.
+  virtual void PSet(double /*x*/, double /*y*/, int /*colour*/) {}
+  /// An outline whose radius is in units of the x axis; from one angle to another, anticlockwise,
+  /// in radians.
+  virtual void Circle(double /*x*/, double /*y*/, double /*radius*/, int /*colour*/, double /*from*/ = 0,
+                      double /*to*/ = FullTurn) {}
+  /// A text at the current point.
+  virtual void Print(std::string_view /*text*/, int /*colour*/ = Foreground) {}
+  /// Pen width in pixels; whoever changes it sets it back to 1.
+  virtual void DrawWidth(int /*pixels*/) {}
 
   /// Outer size in the form's units, used only as a ratio.
   virtual double Width() const { return 0; }
   virtual double Height() const { return 0; }
+  /// x1 and x2 - x1 of the current scale.
+  virtual double ScaleLeft() const { return 0; }
+  virtual double ScaleWidth() const { return 0; }
 };

@@ -16,11 +16,27 @@ TEST_F(Files, AreFoundInAnyLetterCaseAndReplacedUnderTheirOwnName) {
   EXPECT_EQ(Read("Chine1.UC"), "new");
 }
 
-TEST_F(Files, BothSeparatorsLeadIntoFolders) {
-  fs::create_directory(folder / "out");
-  EXPECT_TRUE(WriteTextFile("out\\a.dxf", "1"));
-  EXPECT_TRUE(WriteTextFile("out/b.dxf", "2"));
-  EXPECT_EQ(Read("out/a.dxf") + Read("out/b.dxf"), "12");
+TEST_F(Files, HeldBackChangesAreDoneTogetherOrNotAtAll) {
+  Write("old.uc", "old");
+  Write("kept.uc", "kept");
+  HoldBackChanges();
+  WriteTextFile("new.uc", "new");
+  WriteTextFile("OLD.uc", "changed");
+  DeleteFiles("kept", ".uc");
+  EXPECT_EQ(ReadOrEmpty("New.uc") + ReadOrEmpty("old.uc") + ReadOrEmpty("kept.uc"), "newchanged");
+  EXPECT_EQ(Names(), (std::vector<std::string>{"kept.uc", "old.uc"})) << "nothing on disk yet";
+  EXPECT_EQ(Read("old.uc"), "old");
+  EXPECT_TRUE(CommitChanges());
+  EXPECT_EQ(Names(), (std::vector<std::string>{"new.uc", "old.uc"}));
+  EXPECT_EQ(Read("old.uc"), "changed");
+
+  HoldBackChanges();
+  WriteTextFile("new.uc", "lost");
+  DeleteFile("old.uc");
+  WriteTextFile("no/such/folder.uc", "lost");
+  EXPECT_FALSE(CommitChanges());
+  EXPECT_EQ(Names(), (std::vector<std::string>{"new.uc", "old.uc"}));
+  EXPECT_EQ(Read("new.uc"), "new");
 }
 
 TEST_F(Files, ReadOnlyFilesStayWhoeverAsks) {
@@ -62,14 +78,16 @@ TEST_F(Files, DeletingGoesByBeginningAndEnding) {
   for (const char* name : {"chine1.tri", "Chine10.TRI", "keel.tri", "chine.txt", "tri"}) {
     Write(name, "");
   }
+  fs::create_directory(folder / "chine2.tri");
   DeleteFiles("chine", ".tri");
-  EXPECT_EQ(Names(), (std::vector<std::string>{"chine.txt", "keel.tri", "tri"}));
+  EXPECT_EQ(Names(), (std::vector<std::string>{"chine.txt", "chine2.tri", "keel.tri", "tri"}));
 }
 
 TEST_F(Files, AKeptFileIsNeverWrittenTo) {
   Write("boat.tvh", "mine");
   KeepAsItIs(folder / "boat.tvh");
   EXPECT_FALSE(WriteTextFile("BOAT.tvh", "theirs"));
+  DeleteFile("boat.tvh");
   KeepAsItIs({});
   EXPECT_EQ(Read("boat.tvh"), "mine");
 }

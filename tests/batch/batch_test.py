@@ -97,6 +97,7 @@ class BatchTest(unittest.TestCase):
             self.refused(lambda lines: [count, *lines[1:]], "boat.tvh, line 1:", "whole number from 2 to 30")
         self.refused(lambda lines: [*lines[:6], "oak", *lines[7:]], "line 7:", "expected a number (offset)", '"oak"')
         self.refused(lambda lines: [*lines[:6], "", *lines[7:]], "line 7:")
+        self.refused(lambda lines: [*lines[:6], "1E+308", *lines[7:]], "line 7:")
         self.refused(lambda lines: lines[:40] + [""], "line 40:", "ends here", "offset line 40 of 60")
         self.refused(lambda lines: [*lines[:70], "1E999", *lines[71:]], "line 71:", "hull point")
         self.refused(lambda lines: ["\0" * 3000000], "line 1:")
@@ -129,7 +130,8 @@ class BatchTest(unittest.TestCase):
         for arguments in ([], ["sink"], ["patterns", "--frame", "x"], ["patterns", "--frame", "nan"],
                           ["patterns", "--date", "2026-11-16"], ["patterns", "--date", "13-01-2026"],
                           ["patterns", "--time", "24:00:00"], ["points", "--format", "xml"],
-                          ["patterns", *["--frame", "9"] * 9], ["points", "a", "b"]):
+                          ["patterns", *["--frame", "9"] * 9], ["points", "a", "b"], ["points", ""],
+                          ["patterns", "--frame", "0x10"], ["patterns", "--into", ""]):
             done = run(*arguments, cwd=self.folder)
             self.assertEqual(done.returncode, 2, arguments)
             self.assertTrue(done.stderr, arguments)
@@ -151,34 +153,34 @@ class BatchTest(unittest.TestCase):
         self.assertEqual(done.returncode, 1)
         self.assertIn("standard output", done.stderr)
 
-    def test_a_read_only_file_stays_and_is_named(self):
-        for name in ("chine2.uc", "default.tvh"):
-            (self.folder / name).write_text("mine")
-            (self.folder / name).chmod(0o444)
-        done = run("patterns", "--into", self.folder)
-        self.assertEqual(done.returncode, 1)
-        for name in ("chine2.uc", "default.tvh"):
-            self.assertEqual((self.folder / name).read_text(), "mine")
-            self.assertIn(name, done.stderr)
-        self.assertTrue((self.folder / "chine3.uc").exists(), "the other files are there")
-
-    def test_a_file_limit_leaves_nothing_half_written(self):
-        whole = self.folder / "whole"
-        limited = self.folder / "limited"
-        run("patterns", HULLS / "cruiser.tvh", "--into", whole, *EVERYTHING, *CLOCK)
-        command = ["bash", "-c", 'trap "" XFSZ; ulimit -f 12; "$@"', "bash", PROGRAM, "patterns", HULLS / "cruiser.tvh",
-                   "--into", limited, *EVERYTHING, *CLOCK]
+    def fails_and_changes_nothing(self, into, *arguments, named, limit="true"):
+        """A run that can't write all of its files leaves the folder as it was."""
+        before = files(into)
+        command = ["bash", "-c", limit + ' && exec "$@"', "bash", PROGRAM, "patterns", HULLS / "cruiser.tvh",
+                   "--into", into, *EVERYTHING, *arguments]
         done = subprocess.run(command, capture_output=True, text=True)
         self.assertEqual(done.returncode, 1)
-        self.assertIn("handplot.txt", done.stderr)
-        complete = files(whole)
-        for name, text in files(limited).items():
-            if name.endswith((".tri", ".tvh")):
-                self.assertEqual(text, complete[name], name)
-            self.assertFalse(".new" in name, name)
-            self.assertLessEqual(len(text), 12 * 1024)
-        self.assertIn("chine1.tri", files(limited))
-        self.assertNotIn("handplot.txt", files(limited))
+        self.assertEqual(done.stdout, "")
+        self.assertIn(named, done.stderr)
+        self.assertEqual(files(into), before)
+
+    def test_what_can_not_be_written_whole_is_not_written(self):
+        old = self.folder / "old"
+        run("patterns", HULLS / "dory.tvh", "--into", old, "--text")
+        self.fails_and_changes_nothing(old, named="handplot.txt", limit="ulimit -f 12")
+        (old / "full.plt").symlink_to("/dev/full")
+        (old / "chine2.uc").chmod(0o444)
+        self.fails_and_changes_nothing(old, named="chine2.uc: is read-only")
+        self.fails_and_changes_nothing(old, "--export-path", "/proc/none", named="/proc/none")
+
+    def test_names_that_the_run_needs_for_itself(self):
+        for name in ("chine1.uc", "boat.TRI", "handplot.txt", "temp"):
+            hull = self.hull(name=name)
+            before = hull.read_bytes()
+            done = run("patterns", hull, "--into", self.folder)
+            self.assertEqual(done.returncode, 1)
+            self.assertIn("no pattern has", done.stderr)
+            self.assertEqual(hull.read_bytes(), before)
 
 
 if __name__ == "__main__":

@@ -171,11 +171,11 @@ TEST_F(ChineSpline, ScrollBarsClampAndRefuse) {
   bar.SetValue(1);
   EXPECT_EQ(changes, 0);
   bar.SetValue(300);
-  bar.Min = 400;
+  bar.SetMin(400);
   EXPECT_EQ(bar.Value(), 300) << "the minimum never moves the value";
   bar.SetMax(200);
   EXPECT_EQ(bar.Value(), 300) << "between reversed ends";
-  bar.Min = 10;
+  bar.SetMin(10);
   bar.SetMax(100);
   EXPECT_EQ(bar.Value(), 100);
   bar.SetMax(5);

