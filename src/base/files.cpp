@@ -281,13 +281,17 @@ void HoldBackChanges() {
   holding_back = true;
 }
 
-bool CommitChanges() {
+void DropChanges() {
   holding_back = false;
+  held.clear();
+}
+
+bool CommitChanges() {
   std::vector<Replacement> prepared;
   const bool done = PrepareHeld(prepared) && FinishHeld(prepared);
   if (!done) {
     std::for_each(prepared.begin(), prepared.end(), CancelReplacement);
   }
-  held.clear();
+  DropChanges();
   return done;
 }

@@ -57,6 +57,8 @@ void HoldBackChanges();
 /// and only when all of them are there the old files go and the new ones take their names. False,
 /// with the reason told, if nothing was done. Later changes are done at once again.
 bool CommitChanges();
+/// Forgets all that was held back.
+void DropChanges();
 
 /// Raised for each file that was written whole.
 extern Event<const std::filesystem::path&, std::size_t> FileWritten;

@@ -1,6 +1,7 @@
 #pragma once
 // The commands of the program, each with what its arguments say. They return the exit status.
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -33,6 +34,19 @@ struct PointsArguments {
 /// Prints the interpolated hull.
 int RunPoints(const PointsArguments& arguments);
 
-/// Starts the program's tables and opens a hull as the Open window does, without touching its file;
-/// an empty name leaves the built-in hull. Complains and returns false if the file is no hull.
-bool OpenHull(const std::string& path);
+struct HydrostaticsArguments {
+  std::string hull;  ///< empty for the built-in hull
+  std::optional<double> waterline;
+  std::optional<double> displacement;
+  std::optional<double> from;
+  std::optional<double> to;
+  std::optional<double> step;
+  bool sea = false;
+  std::optional<double> pitch;
+  std::vector<double> heel;
+  std::string format = "text";
+  std::string into;  ///< where the waterplane goes; empty to leave none behind
+};
+
+/// Prints the hydrostatics at one waterline or at several, upright or at one heel or several.
+int RunHydrostatics(const HydrostaticsArguments& arguments);

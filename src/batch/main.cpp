@@ -4,6 +4,7 @@
 #include <functional>
 #include <iostream>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -53,9 +54,9 @@ std::string CheckTime(const std::string& text) {
   return fits ? "" : "expected a time as HH:MM:SS, found " + text;
 }
 
-std::string CheckInches(const std::string& text) {
+std::string CheckNumber(const std::string& text) {
   const bool fits = NumericLength(text) == text.size() && !text.empty() && HasValue(NumberOf(text));
-  return fits ? "" : "expected inches, found " + text;
+  return fits ? "" : "expected a number, found " + text;
 }
 
 std::string CheckNotEmpty(const std::string& text) {
@@ -88,7 +89,7 @@ void AddPatterns(CLI::App& app, PatternsArguments& arguments, std::function<int(
           "A frame Z inches aft of the stem (its sign doesn't count), up to eight; instead of the hull's own")
       ->type_name("Z")
       ->allow_extra_args(false)
-      ->check(CheckInches);
+      ->check(CheckNumber);
   command->add_flag("--dxf", arguments.dxf, "DXF copies of all patterns");
   command->add_flag("--hpgl", arguments.hpgl, "HPGL copies of all patterns");
   command
@@ -124,6 +125,59 @@ void AddPoints(CLI::App& app, PointsArguments& arguments, std::function<int()>& 
   command->callback([&] { run = [&arguments] { return RunPoints(arguments); }; });
 }
 
+void RequireOneGoal(const HydrostaticsArguments& arguments) {
+  const bool range = arguments.from && arguments.to && arguments.step;
+  const bool part_of_range = arguments.from || arguments.to || arguments.step;
+  const int goals = (arguments.waterline ? 1 : 0) + (arguments.displacement ? 1 : 0) + (range ? 1 : 0);
+  if (goals != 1 || range != part_of_range) {
+    throw CLI::ValidationError("hydrostatics",
+                               "expected one of --waterline, --displacement, or --from --to --step");
+  }
+  constexpr double most_waterlines = 100000;
+  if (range && !(*arguments.step > 0 && *arguments.to >= *arguments.from &&
+                 (*arguments.to - *arguments.from) / *arguments.step < most_waterlines)) {
+    throw CLI::ValidationError("--step", "expected a step above 0 that leads from --from up to --to");
+  }
+}
+
+void AddHydrostatics(CLI::App& app, HydrostaticsArguments& arguments, std::function<int()>& run) {
+  CLI::App* const command =
+      app.add_subcommand("hydrostatics", "what the water does at a waterline, upright or heeled");
+  command->formatter(std::make_shared<SynopsisFormatter>(
+      "  tarve-batch hydrostatics [HULL] (--waterline Y | --displacement LBS |\n"
+      "              --from Y1 --to Y2 --step D) [--sea] [--pitch DEG] [--heel DEG[,DEG]...]\n"
+      "              [--format text|json|csv] [--into DIR]"));
+  command->add_option("hull", arguments.hull)->check(CheckNotEmpty);
+  const auto add_number = [&](const char* name, auto& target, const char* type, const char* help) {
+    return command->add_option(name, target, help)->type_name(type)->check(CheckNumber);
+  };
+  add_number("--waterline", arguments.waterline, "Y", "Height of the waterline in inches, to a tenth");
+  add_number("--displacement", arguments.displacement, "LBS", "Weight in pounds to find the waterline for");
+  add_number("--from", arguments.from, "Y1", "First of several waterlines");
+  add_number("--to", arguments.to, "Y2", "Last of them");
+  add_number("--step", arguments.step, "D", "Inches from one to the next");
+  command->add_flag("--sea", arguments.sea, "Sea water instead of fresh water");
+  add_number("--pitch", arguments.pitch, "DEG", "Pitch of the hull in degrees");
+  add_number("--heel", arguments.heel, "DEG",
+             "Heel in degrees; several, parted by commas, give a stability curve")
+      ->delimiter(',')
+      ->allow_extra_args(false);
+  command->add_option("--format", arguments.format, "text (the usual one), json or csv")
+      ->type_name("FORMAT")
+      ->check(CLI::IsMember({"text", "json", "csv"}));
+  command
+      ->add_option("--into", arguments.into, "Folder for the waterplane watrplne.uc; otherwise none is left")
+      ->type_name("DIR")
+      ->check(CheckNotEmpty);
+  command->footer(
+      std::string(HullHelp) +
+      "\nEXAMPLE\n  tarve-batch hydrostatics dory.tvh --displacement 500 --heel 0,10,20,30 --format csv\n");
+  command->callback([&] {
+    RequireOneGoal(arguments);
+    run = [&arguments] { return RunHydrostatics(arguments); };
+  });
+}
+
 int Run(int argc, char** argv) {
   CLI::App app("work on hull files without a window");
   app.formatter(std::make_shared<SynopsisFormatter>(
@@ -134,9 +188,11 @@ int Run(int argc, char** argv) {
   app.require_subcommand(1);
   PatternsArguments patterns;
   PointsArguments points;
+  HydrostaticsArguments hydrostatics;
   std::function<int()> run;
   AddPatterns(app, patterns, run);
   AddPoints(app, points, run);
+  AddHydrostatics(app, hydrostatics, run);
   try {
     app.parse(argc, argv);
   } catch (const CLI::RequiredError&) {

@@ -1,38 +1,22 @@
 #include <chrono>
 #include <filesystem>
 #include <iostream>
+#include <optional>
 
 #include "base/clock.h"
 #include "base/files.h"
 #include "base/text_case.h"
 #include "batch/commands.h"
+#include "batch/folders.h"
+#include "batch/open_hull.h"
 #include "batch/report.h"
 #include "controls/forms.h"
 #include "hull/hull_model.h"
-#include "hull/plot_scale.h"
 #include "panels/save_dialog.h"
 
 namespace fs = std::filesystem;
 
 namespace {
-
-/// The whole path of a folder, without a separator at its end.
-fs::path FolderPath(const std::string& name) {
-  const fs::path folder = fs::absolute(name).lexically_normal();
-  return folder.has_filename() ? folder : folder.parent_path();
-}
-
-/// Makes a folder if it is missing. False, and a complaint, if it can't be made.
-bool MakeFolder(const fs::path& folder) {
-  std::error_code failed;
-  fs::create_directories(folder, failed);
-  if (!fs::is_directory(folder)) {
-    Complain(folder.string() +
-             ": expected a folder to write in: " + (failed ? failed.message() : "is a file"));
-    return false;
-  }
-  return true;
-}
 
 void SetCheckBoxes(const PatternsArguments& arguments) {
   Form3.Check1.Value = true;
@@ -67,11 +51,11 @@ bool NameIsTaken(const std::string& name) {
 }
 
 /// The hull file is left as it was, even where its copy would go.
-void ProtectHull(const std::string& hull, const fs::path& folder) {
+void ProtectHull(const std::string& hull, const fs::path& copy) {
   std::error_code failed;
   const fs::path own = FindFile(hull);
   KeepAsItIs(fs::absolute(own));
-  if (fs::equivalent(own, folder / HullFileName, failed)) {
+  if (fs::equivalent(own, copy, failed)) {
     Complain(hull + ": note: the hull file stays as it is, no copy is saved beside it");
   }
 }
@@ -95,20 +79,21 @@ int RunPatterns(const PatternsArguments& arguments) {
   const auto start = std::chrono::steady_clock::now();
   WatchFiles();
   FixClock(arguments.date, arguments.time);
-  if (!OpenHull(arguments.hull)) {
+  const std::optional<HullSource> hull = ReadHull(arguments.hull);
+  if (!hull) {
     return CouldNot;
   }
-  if (NameIsTaken(HullFileName)) {
-    return Complain(HullFileName +
+  if (NameIsTaken(hull->name)) {
+    return Complain(hull->name +
                     ": expected a hull file with a name that no pattern has, such as boat.tvh");
   }
   const fs::path folder = FolderPath(arguments.into);
   const fs::path export_folder = arguments.export_path.empty() ? folder : FolderPath(arguments.export_path);
-  if (!arguments.hull.empty()) {
-    ProtectHull(arguments.hull, folder);
+  if (!hull->name.empty()) {
+    ProtectHull(arguments.hull, folder / hull->name);
   }
   SetWorkingFolder(folder);
-  ReadPlotScale();
+  OpenHull(*hull);
   if (arguments.text && FindShippedFile("pedit.fnt").empty()) {
     return Complain("pedit.fnt: expected the stroke font in " + folder.string() +
                     " or the program's data folder");

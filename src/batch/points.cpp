@@ -1,8 +1,10 @@
 #include <iostream>
 #include <nlohmann/json.hpp>
+#include <optional>
 
 #include "base/number_text.h"
 #include "batch/commands.h"
+#include "batch/open_hull.h"
 #include "batch/report.h"
 #include "hull/hull_model.h"
 
@@ -47,9 +49,11 @@ void PrintJson() {
 
 int RunPoints(const PointsArguments& arguments) {
   WatchFiles();
-  if (!OpenHull(arguments.hull)) {
+  const std::optional<HullSource> hull = ReadHull(arguments.hull);
+  if (!hull) {
     return CouldNot;
   }
+  OpenHull(*hull);
   if (arguments.format == "json") {
     PrintJson();
   } else {

@@ -7,6 +7,7 @@
 #include "views/draw_surface.h"
 
 struct MainWindow {
+  MenuItem Dummy4;  ///< save, create
   MenuItem AutoSpline;
   MenuItem displacement;
   MenuItem EnterWaterline;
