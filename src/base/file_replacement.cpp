@@ -48,11 +48,7 @@ bool IsReadOnly(const fs::file_status& status) {
   return (status.permissions() & any_write) == fs::perms::none;
 }
 
-}  // namespace
-
-std::string WhyNotWritable(const fs::path& path) {
-  std::error_code failed;
-  const fs::file_status status = fs::status(path, failed);
+std::string WhyNotWritable(const fs::path& path, const fs::file_status& status) {
   if (!fs::exists(status)) {
     return {};
   }
@@ -68,19 +64,26 @@ std::string WhyNotWritable(const fs::path& path) {
   return Open(path, "r+b") ? std::string() : LastError();
 }
 
+}  // namespace
+
+std::string WhyNotWritable(const fs::path& path) {
+  std::error_code failed;
+  return WhyNotWritable(path, fs::status(path, failed));
+}
+
 Replacement BeginReplacement(const fs::path& path, std::string_view text) {
-  Replacement replacement{path, {}, WhyNotWritable(path)};
+  std::error_code failed;
+  const fs::file_status old = fs::status(path, failed);
+  Replacement replacement{path, {}, WhyNotWritable(path, old)};
   if (!replacement.problem.empty()) {
     return replacement;
   }
-  std::error_code failed;
-  const fs::file_status old = fs::status(path, failed);
   if (fs::is_character_file(old)) {
     replacement.problem = WriteAndClose(Open(path, "wb"), text);
     return replacement;
   }
-  if (fs::is_symlink(path, failed)) {
-    replacement.target = fs::weakly_canonical(path, failed);  // the link stays, its file is replaced
+  if (fs::exists(old) && fs::is_symlink(path, failed)) {
+    replacement.target = fs::canonical(path, failed);  // the link stays, its file is replaced
   }
   replacement.problem = WriteAndClose(OpenBeside(replacement.target, replacement.beside), text);
   if (!replacement.problem.empty()) {

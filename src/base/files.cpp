@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "base/file_replacement.h"
+#include "base/held_changes.h"
 #include "base/platform.h"
 #include "base/text_case.h"
 
@@ -26,71 +27,29 @@ fs::path kept_file;
 /// More than any file of this system can grow to.
 constexpr std::size_t MostBytes = std::size_t{64} << 20;
 
-/// A change that is held back: the new text, or none for a file that is to be deleted.
-struct HeldChange {
-  fs::path path;
-  std::optional<std::string> text;
-};
-bool holding_back = false;
-std::vector<HeldChange> held;
+/// What is held back now, if anything is.
+std::optional<HeldChanges> held;
 
 bool Fail(const fs::path& path, const std::string& why) {
   FileFailed(path, why);
   return false;
 }
 
-HeldChange* FindHeld(const fs::path& path) {
-  const auto found =
-      std::find_if(held.begin(), held.end(), [&](const HeldChange& h) { return h.path == path; });
-  return found == held.end() ? nullptr : &*found;
-}
-
-void Hold(const fs::path& path, std::optional<std::string> text) {
-  if (HeldChange* change = FindHeld(path)) {
-    change->text = std::move(text);
-  } else {
-    held.push_back({path, std::move(text)});
-  }
-}
-
-/// Whether there is such a file, with what is held back taken as done.
-bool Exists(const fs::path& path) {
-  if (const HeldChange* change = FindHeld(path)) {
-    return change->text.has_value();
-  }
-  std::error_code failed;
-  return fs::exists(path, failed);
-}
-
-/// Calls take(path) for the files of a folder, with what is held back taken as done.
-template <class Take>
-void ForEachFile(const fs::path& folder, Take take) {
-  std::error_code failed;
-  for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end; entry.increment(failed)) {
-    std::error_code unknown;
-    if (!entry->is_directory(unknown) && FindHeld(entry->path()) == nullptr) {
-      take(entry->path());
-    }
-  }
-  for (const HeldChange& change : held) {
-    if (change.text && change.path.parent_path() == folder) {
-      take(change.path);
-    }
-  }
-}
-
 fs::path FindIn(const fs::path& path) {
-  if (Exists(path)) {
+  if (held) {
+    return held->FindFile(path);
+  }
+  std::error_code failed;
+  if (fs::exists(path, failed)) {
     return path;
   }
   const std::string wanted = LowerCase(path.filename().string());
-  fs::path found;
-  ForEachFile(path.parent_path(), [&](const fs::path& file) {
-    if (found.empty() && LowerCase(file.filename().string()) == wanted) {
-      found = file;
+  for (const fs::path& file : FilesOnDisk(path.parent_path())) {
+    if (LowerCase(file.filename().string()) == wanted) {
+      return file;
     }
-  });
-  return found;
+  }
+  return {};
 }
 
 bool IsKept(const fs::path& path) {
@@ -124,14 +83,30 @@ std::optional<std::string> ReadAll(const fs::path& path) {
   return text;
 }
 
-bool Remove(const fs::path& path) {
+bool WriteNow(const fs::path& path, std::string_view text) {
+  const Replacement replacement = BeginReplacement(path, text);
+  const std::string problem =
+      replacement.problem.empty() ? FinishReplacement(replacement) : replacement.problem;
+  if (!problem.empty()) {
+    return Fail(path, problem);
+  }
+  FileWritten(path, text.size());
+  return true;
+}
+
+void DeleteNow(const fs::path& path) {
   std::error_code failed;
-  return fs::remove(path, failed) || Fail(path, failed.message());
+  const std::string problem = WhyNotWritable(path);
+  if (!problem.empty()) {
+    Fail(path, problem);
+  } else if (!fs::remove(path, failed) && failed) {
+    Fail(path, failed.message());
+  }
 }
 
 /// Everything that can go wrong goes wrong here, before anything has changed.
-bool PrepareHeld(std::vector<Replacement>& prepared) {
-  for (const HeldChange& change : held) {
+bool PrepareAll(const std::vector<HeldChange>& changes, std::vector<Replacement>& prepared) {
+  for (const HeldChange& change : changes) {
     prepared.push_back(change.text ? BeginReplacement(change.path, *change.text)
                                    : Replacement{change.path, {}, WhyNotWritable(change.path)});
     if (!prepared.back().problem.empty()) {
@@ -141,22 +116,33 @@ bool PrepareHeld(std::vector<Replacement>& prepared) {
   return true;
 }
 
-bool FinishHeld(const std::vector<Replacement>& prepared) {
+bool FinishAll(const std::vector<HeldChange>& changes, const std::vector<Replacement>& prepared) {
   bool all = true;
-  for (std::size_t i = 0; i < held.size(); ++i) {
-    if (!held[i].text) {
-      std::error_code failed;
-      fs::remove(held[i].path, failed);
+  for (std::size_t i = 0; i < changes.size(); ++i) {
+    const HeldChange& change = changes[i];
+    std::error_code failed;
+    if (!change.text) {
+      fs::remove(change.path, failed);
       continue;
     }
     const std::string problem = FinishReplacement(prepared[i]);
     if (problem.empty()) {
-      FileWritten(held[i].path, held[i].text->size());
+      FileWritten(change.path, change.text->size());
     } else {
-      all = Fail(held[i].path, problem);
+      all = Fail(change.path, problem);
     }
   }
   return all;
+}
+
+/// Ends the holding back and gives what was held.
+std::vector<HeldChange> TakeHeld() {
+  std::vector<HeldChange> changes;
+  if (held) {
+    changes = held->All();
+  }
+  held.reset();
+  return changes;
 }
 
 }  // namespace
@@ -196,7 +182,7 @@ std::optional<std::string> ReadTextFile(const fs::path& path) {
   if (path.empty()) {
     return std::nullopt;
   }
-  if (const HeldChange* change = FindHeld(path)) {
+  if (const HeldChange* change = held ? held->Find(path) : nullptr) {
     return change->text;
   }
   std::error_code failed;
@@ -217,18 +203,11 @@ bool WriteTextFile(std::string_view name, std::string_view text) {
   if (IsKept(path)) {
     return false;
   }
-  if (holding_back) {
-    Hold(path, std::string(text));
+  if (held) {
+    held->Hold(path, std::string(text));
     return true;
   }
-  const Replacement replacement = BeginReplacement(path, text);
-  const std::string problem =
-      replacement.problem.empty() ? FinishReplacement(replacement) : replacement.problem;
-  if (!problem.empty()) {
-    return Fail(path, problem);
-  }
-  FileWritten(path, text.size());
-  return true;
+  return WriteNow(path, text);
 }
 
 bool CopyTextFile(std::string_view from, std::string_view to) {
@@ -247,29 +226,20 @@ void DeleteFile(std::string_view name) {
   if (path.empty() || IsKept(path)) {
     return;
   }
-  if (holding_back) {
-    Hold(path, std::nullopt);
-    return;
-  }
-  const std::string problem = WhyNotWritable(path);
-  if (!problem.empty()) {
-    Fail(path, problem);
+  if (held) {
+    held->Hold(path, std::nullopt);
   } else {
-    Remove(path);
+    DeleteNow(path);
   }
 }
 
 void DeleteFiles(std::string_view beginning, std::string_view ending) {
-  std::vector<fs::path> matching;
-  ForEachFile(WorkingFolder(), [&](const fs::path& file) {
+  for (const fs::path& file : held ? held->FilesOf(WorkingFolder()) : FilesOnDisk(WorkingFolder())) {
     const std::string name = LowerCase(file.filename().string());
     if (name.size() >= beginning.size() + ending.size() && name.starts_with(beginning) &&
         name.ends_with(ending)) {
-      matching.push_back(file);
+      DeleteFile(file.string());
     }
-  });
-  for (const fs::path& file : matching) {
-    DeleteFile(file.string());
   }
 }
 
@@ -277,21 +247,34 @@ void KeepAsItIs(const fs::path& path) {
   kept_file = path;
 }
 
-void HoldBackChanges() {
-  holding_back = true;
+bool HoldBackChanges() {
+  if (held) {
+    return false;
+  }
+  held.emplace();
+  return true;
 }
 
-void DropChanges() {
-  holding_back = false;
-  held.clear();
+void WriteChanges() {
+  for (const HeldChange& change : TakeHeld()) {
+    if (change.text) {
+      WriteNow(change.path, *change.text);
+    } else {
+      DeleteNow(change.path);
+    }
+  }
 }
 
 bool CommitChanges() {
+  const std::vector<HeldChange> changes = TakeHeld();
   std::vector<Replacement> prepared;
-  const bool done = PrepareHeld(prepared) && FinishHeld(prepared);
+  const bool done = PrepareAll(changes, prepared) && FinishAll(changes, prepared);
   if (!done) {
     std::for_each(prepared.begin(), prepared.end(), CancelReplacement);
   }
-  DropChanges();
   return done;
+}
+
+void DropChanges() {
+  held.reset();
 }

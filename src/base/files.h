@@ -51,11 +51,13 @@ void DeleteFiles(std::string_view beginning, std::string_view ending);
 void KeepAsItIs(const std::filesystem::path& path);
 
 /// From now on writes and deletes are held back in memory: what follows reads them as if they had
-/// been done, but nothing on disk changes.
-void HoldBackChanges();
+/// been done, but nothing on disk changes. False, and nothing new, if they are held back already.
+bool HoldBackChanges();
+/// Does what was held back, each file by itself: one that fails doesn't stop the others.
+void WriteChanges();
 /// Does all that was held back, or nothing of it: every text is written beside its target first,
 /// and only when all of them are there the old files go and the new ones take their names. False,
-/// with the reason told, if nothing was done. Later changes are done at once again.
+/// with the reason told, if nothing was done.
 bool CommitChanges();
 /// Forgets all that was held back.
 void DropChanges();

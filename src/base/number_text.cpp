@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 
 #include "base/skipped_statement.h"
 
@@ -161,22 +162,79 @@ void AppendGeneral(std::string& out, const Decimal& decimal, int significant) {
   }
 }
 
+int CountDigits(std::uint64_t number) {
+  int digits = 1;
+  for (std::uint64_t bound = 10; number >= bound && digits < 19; bound *= 10) {
+    ++digits;
+  }
+  return digits;
+}
+
+/// Writes a sign (0 for none) and a whole number of units, so many decimals to one: '-', 12345 and 3
+/// is "-12.345". Returns how many characters. Written in place, because many of these are needed.
+std::size_t WriteUnits(char* to, char sign, std::uint64_t units, int decimals) {
+  const int digits = std::max(CountDigits(units), decimals + 1);
+  const std::size_t size = static_cast<std::size_t>(digits) + (sign != 0 ? 1 : 0) + (decimals > 0 ? 1 : 0);
+  char* at = to + size;
+  for (int place = 0; place < digits; ++place) {
+    if (place == decimals && decimals > 0) {
+      *--at = '.';
+    }
+    *--at = static_cast<char>('0' + units % 10);
+    units /= 10;
+  }
+  if (sign != 0) {
+    *to = sign;
+  }
+  return size;
+}
+
+/// The short way for what most coordinates are, a number of at most three decimals. It is exact:
+/// a decimal of up to `significant` digits that reads as the value is its form of so many digits.
+/// Returns how many characters it wrote, 0 if the value needs the long way.
 template <class Number>
-void AppendNumber(std::string& out, Number value, int significant, std::string_view sign_place) {
+std::size_t WriteShort(char* to, char sign, Number magnitude, int significant) {
+  const double most = significant < 15 ? 1e7 : 1e15;
+  if (static_cast<double>(magnitude) < most && magnitude == std::floor(magnitude)) {
+    return WriteUnits(to, sign, static_cast<std::uint64_t>(magnitude), 0);
+  }
+  const double thousandths = static_cast<double>(magnitude) * 1000;
+  if (!(thousandths < most)) {
+    return 0;
+  }
+  auto units = static_cast<std::uint64_t>(thousandths + 0.5);
+  if (static_cast<Number>(static_cast<double>(units) / 1000) != magnitude) {
+    return 0;
+  }
+  int decimals = 3;
+  while (decimals > 0 && units % 10 == 0) {
+    units /= 10;
+    --decimals;
+  }
+  return WriteUnits(to, sign, units, decimals);
+}
+
+void AppendUnits(std::string& out, char sign, std::uint64_t units, int decimals) {
+  std::array<char, NumberRoom> text;
+  out.append(text.data(), WriteUnits(text.data(), sign, units, decimals));
+}
+
+/// `plus` is what stands in the sign place of a number that is not negative, 0 for nothing.
+template <class Number>
+void AppendNumber(std::string& out, Number value, int significant, char plus) {
   if (!std::isfinite(value)) {
     return;
   }
-  if (value == 0) {
-    out += sign_place;
-    out += '0';
-    return;
+  const char sign = value < 0 ? '-' : plus;
+  std::array<char, NumberRoom> text;
+  const std::size_t size = WriteShort(text.data(), sign, std::abs(value), significant);
+  out.append(text.data(), size);
+  if (size == 0) {
+    if (sign != 0) {
+      out += sign;
+    }
+    AppendGeneral(out, ToDecimal(value, significant), significant);
   }
-  if (value < 0) {
-    out += '-';
-  } else {
-    out += sign_place;
-  }
-  AppendGeneral(out, ToDecimal(value, significant), significant);
 }
 
 /// Rounds to the digit that stands `decimals` behind the point, halves away from zero.
@@ -199,6 +257,18 @@ void RoundDecimal(Decimal& decimal, int decimals) {
     ++decimal.count;
     ++decimal.exponent;
   }
+}
+
+/// The short way for values far from a half, which the steps of the mask can't move across it.
+bool AppendFixedShort(std::string& out, char sign, double magnitude, int decimals) {
+  constexpr std::array<double, 4> powers = {1, 10, 100, 1000};
+  constexpr double near = 1e-4;
+  const double scaled = magnitude * powers[static_cast<std::size_t>(decimals)];
+  if (!(scaled < 1e9) || std::abs(scaled - std::floor(scaled) - 0.5) < near) {
+    return false;
+  }
+  AppendUnits(out, sign, static_cast<std::uint64_t>(scaled + 0.5), decimals);
+  return true;
 }
 
 }  // namespace
@@ -230,19 +300,19 @@ double NumberOf(std::string_view text) {
 
 std::string PlainText(double value) {
   std::string out;
-  AppendNumber(out, value, 15, "");
+  AppendNumber(out, value, 15, 0);
   return out;
 }
 
 std::string SignedText(double value) {
   std::string out;
-  AppendNumber(out, value, 15, " ");
+  AppendNumber(out, value, 15, ' ');
   return out;
 }
 
 std::string SignedText(float value) {
   std::string out;
-  AppendNumber(out, value, 7, " ");
+  AppendNumber(out, value, 7, ' ');
   return out;
 }
 
@@ -252,17 +322,28 @@ std::string PrintText(double value) {
   return out;
 }
 
+std::size_t WritePrintText(char* to, double value) {
+  std::size_t size = WriteShort(to, value < 0 ? '-' : ' ', std::abs(value), 15);
+  if (size == 0) {
+    size = SignedText(value).copy(to, NumberRoom - 1);
+  }
+  to[size] = ' ';
+  return size + 1;
+}
+
 void AppendPrintText(std::string& out, double value) {
-  AppendNumber(out, value, 15, " ");
+  AppendNumber(out, value, 15, ' ');
   out += ' ';
 }
 
 void AppendWhole(std::string& out, double value) {
+  if (std::abs(value) < 9e18) {
+    AppendUnits(out, value < 0 ? '-' : '\0', static_cast<std::uint64_t>(std::abs(value)), 0);
+    return;
+  }
   std::array<char, 400> buffer;
-  char* const end = buffer.data() + buffer.size();
-  const bool small = std::abs(value) < 9e18;
-  const auto written = small ? std::to_chars(buffer.data(), end, static_cast<long long>(value))
-                             : std::to_chars(buffer.data(), end, value, std::chars_format::fixed, 0);
+  const auto written =
+      std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed, 0);
   out.append(buffer.data(), written.ptr);
 }
 
@@ -270,8 +351,12 @@ void AppendFixedText(std::string& out, double value, int decimals) {
   if (!HasValue(value)) {
     return;
   }
-  if (value < 0) {
-    out += '-';
+  const char sign = value < 0 ? '-' : '\0';
+  if (AppendFixedShort(out, sign, std::abs(value), decimals)) {
+    return;
+  }
+  if (sign != 0) {
+    out += sign;
   }
   Decimal decimal = ToDecimal(value, 15);
   RoundDecimal(decimal, decimals);

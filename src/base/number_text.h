@@ -27,13 +27,18 @@ std::string SignedText(float value);
 /// The print form of files: the signed-number form with one blank behind: " 0.25 ".
 std::string PrintText(double value);
 
-/// Appends the print form. For writers of many numbers.
 void AppendPrintText(std::string& out, double value);
+
+/// More characters than any of these forms takes.
+inline constexpr std::size_t NumberRoom = 32;
+/// The print form for writers of very many numbers: writes into a place of NumberRoom characters and
+/// returns how many. The value must be one.
+std::size_t WritePrintText(char* to, double value);
 
 /// Appends a number that is whole already as bare digits, never with an exponent.
 void AppendWhole(std::string& out, double value);
 
-/// The masks "0", "0.0", "0.00": the value is taken to 15 significant digits and then rounded half
+/// The masks "0", "0.0", "0.00", "0.000": the value is taken to 15 significant digits and then rounded half
 /// away from zero. A negative value that rounds to zero keeps its minus; a true zero has none.
 std::string FixedText(double value, int decimals);
 void AppendFixedText(std::string& out, double value, int decimals);

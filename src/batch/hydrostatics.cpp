@@ -86,11 +86,11 @@ struct Task {
 /// Sets the bar. A sheer that goes under lowers the bar's range, and the waterline with it.
 bool SetWaterline(double inches) {
   Form1.EnterWaterline.Click();
+  const ScrollBar& bar = Form1.HScroll1;
   const std::optional<int> tenths = ToWhole(inches * 10);
-  if (!tenths || *tenths < Form1.HScroll1.Low() || *tenths > Form1.HScroll1.High()) {
+  if (!tenths || *tenths < bar.Min() || *tenths > bar.Max()) {
     Complain("waterline " + PlainText(inches) + ": outside of the hull; expected from " +
-             FixedText(Form1.HScroll1.Low() / 10.0, 1) + " to " + FixedText(Form1.HScroll1.High() / 10.0, 1) +
-             " inches");
+             FixedText(bar.Min() / 10.0, 1) + " to " + FixedText(bar.Max() / 10.0, 1) + " inches");
     return false;
   }
   Form1.HScroll1.SetValue(*tenths);
@@ -102,10 +102,10 @@ bool SetWaterline(double inches) {
 }
 
 bool SearchDisplacement(double pounds) {
+  TargetReached = false;
   ClickAndAnswer(Form1.displacement, pounds);
   if (!TargetReached) {
-    Complain("displacement " + PlainText(pounds) + ": expected pounds that the hull can carry, up to " +
-             FixedText(WaterDensity * DisplacedVolume / 231, 0));
+    Complain("displacement " + PlainText(pounds) + ": expected pounds above 0 that the hull can carry");
   }
   return TargetReached;
 }
@@ -117,6 +117,9 @@ void HeelHull(double angle) {
   Heel.HeeledLength = WaterlineLength;
   Heel.LowestY = LowestPoint();
   ClickAndAnswer(Form1.EnterHeel, angle);
+  if (Heel.Outcome == HeelOutcome::Failed) {
+    Complain("note: heel " + PlainText(angle) + " failed; the rows are those of the last pass");
+  }
 }
 
 /// As a user would in a program just started: hull, pitch, water, waterline, heel. So each object

@@ -5,6 +5,7 @@
 #include <iostream>
 #include <memory>
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <utility>
 
@@ -55,8 +56,18 @@ std::string CheckTime(const std::string& text) {
 }
 
 std::string CheckNumber(const std::string& text) {
-  const bool fits = NumericLength(text) == text.size() && !text.empty() && HasValue(NumberOf(text));
+  const bool fits = !text.empty() && NumericLength(text) == text.size() && HasValue(NumberOf(text)) &&
+                    text.find_first_of("dD") == std::string::npos;
   return fits ? "" : "expected a number, found " + text;
+}
+
+/// For numbers that are tried on the hull: a bad one counts as one that it can't take.
+std::string RefuseBadNumber(const std::string& text) {
+  const std::string problem = CheckNumber(text);
+  if (!problem.empty()) {
+    throw std::invalid_argument(problem);
+  }
+  return {};
 }
 
 std::string CheckNotEmpty(const std::string& text) {
@@ -136,7 +147,8 @@ void RequireOneGoal(const HydrostaticsArguments& arguments) {
   constexpr double most_waterlines = 100000;
   if (range && !(*arguments.step > 0 && *arguments.to >= *arguments.from &&
                  (*arguments.to - *arguments.from) / *arguments.step < most_waterlines)) {
-    throw CLI::ValidationError("--step", "expected a step above 0 that leads from --from up to --to");
+    throw std::invalid_argument(
+        "expected a step above 0 that leads from --from to --to in at most 100000 steps");
   }
 }
 
@@ -149,7 +161,7 @@ void AddHydrostatics(CLI::App& app, HydrostaticsArguments& arguments, std::funct
       "              [--format text|json|csv] [--into DIR]"));
   command->add_option("hull", arguments.hull)->check(CheckNotEmpty);
   const auto add_number = [&](const char* name, auto& target, const char* type, const char* help) {
-    return command->add_option(name, target, help)->type_name(type)->check(CheckNumber);
+    return command->add_option(name, target, help)->type_name(type)->check(RefuseBadNumber);
   };
   add_number("--waterline", arguments.waterline, "Y", "Height of the waterline in inches, to a tenth");
   add_number("--displacement", arguments.displacement, "LBS", "Weight in pounds to find the waterline for");

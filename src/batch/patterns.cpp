@@ -84,8 +84,7 @@ int RunPatterns(const PatternsArguments& arguments) {
     return CouldNot;
   }
   if (NameIsTaken(hull->name)) {
-    return Complain(hull->name +
-                    ": expected a hull file with a name that no pattern has, such as boat.tvh");
+    return Complain(hull->name + ": expected a hull file with a name that no pattern has, such as boat.tvh");
   }
   const fs::path folder = FolderPath(arguments.into);
   const fs::path export_folder = arguments.export_path.empty() ? folder : FolderPath(arguments.export_path);

@@ -1,5 +1,7 @@
 #include "controls/controls.h"
 
+#include <utility>
+
 void ScrollBar::SetMin(int min) {
   min_ = min;
   Show();
@@ -24,13 +26,10 @@ void ScrollBar::SetValue(int value) {
   Change();
 }
 
-void ComboBox::AddRow(std::string row) {
-  rows_.push_back(std::move(row));
-}
-
-void ComboBox::Clear() {
-  rows_.clear();
+void ComboBox::SetRows(std::vector<std::string> rows) {
+  rows_ = std::move(rows);
   list_index_ = -1;
+  Show();
 }
 
 void ComboBox::SetListIndex(int row) {

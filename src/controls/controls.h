@@ -56,7 +56,8 @@ struct MenuItem {
   Property<bool> Enabled{true};
 };
 
-/// The ends may be reversed (Min above Max); the value then lies between Max and Min.
+/// The ends may be reversed (Min above Max). The value can lie outside of them, because setting Min
+/// never moves it; a face must not bring it back by itself.
 class ScrollBar {
  public:
   static constexpr int SmallChange = 1;
@@ -93,13 +94,16 @@ class ScrollBar {
 class ComboBox {
  public:
   Event<> Click;
+  explicit ComboBox(std::string text = {}) : Text(std::move(text)) {}
+
   Property<bool> Visible;
   Property<std::string> Text;
+  /// The face's slot: put the rows on the screen.
+  Event<> Show;
 
   const std::vector<std::string>& Rows() const { return rows_; }
-  void AddRow(std::string row);
-  /// Takes all rows and the choice away; the edit line stays.
-  void Clear();
+  /// Replaces all rows and takes the choice away; the edit line stays.
+  void SetRows(std::vector<std::string> rows);
 
   /// The chosen row from 0, -1 for none.
   int ListIndex() const { return list_index_; }

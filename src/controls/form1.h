@@ -35,7 +35,7 @@ struct MainWindow {
   /// The waterline in tenths of an inch.
   ScrollBar HScroll1{1, 500, 1};
   /// The results, hidden until there are some.
-  ComboBox Combo1;
+  ComboBox Combo1{"Results"};
   StatusBar StatusBar1;
 
   /// The thumbnails of section, profile and plan, and the main drawing surface: a face puts its own

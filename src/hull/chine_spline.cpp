@@ -1,8 +1,11 @@
 #include "hull/chine_spline.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "base/number_text.h"
+#include "base/skipped_statement.h"
+#include "base/table.h"
 #include "controls/forms.h"
 #include "hull/hull_model.h"
 
@@ -216,10 +219,10 @@ void SplineChineX(int chine) {
 }
 
 void RecomputeHull() {
-  if (UprightPts) {
-    HullPts = *UprightPts;
-    UprightPts.reset();
+  if (!Form1.AutoSpline.Checked) {
+    RestoreUprightHull();
   }
+  UprightPts.reset();
   CleanOffsets();
   Store(ViewMargin, HullMaxX / 25);
   MaxHalfBeam = 0;
@@ -235,6 +238,7 @@ void RecomputeHull() {
 }
 
 void ApplyPitch() {
+  RestoreUprightHull();
   const double p = PitchAngle - PitchApplied;
   const double t = -p * CoarsePi / 180;
   const Turn turn{std::cos(t), std::sin(t)};

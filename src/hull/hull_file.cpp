@@ -158,7 +158,8 @@ void PutOffsets(std::string& out) {
 }
 
 void PutHullPoints(std::string& out) {
-  const PointTable& points = UprightPts ? *UprightPts : HullPts;
+  const bool heeled = UprightPts && !Form1.AutoSpline.Checked;
+  const PointTable& points = heeled ? *UprightPts : HullPts;
   for (int s = 1; s <= Stations; ++s) {
     for (int c = 1; c <= NumChines; ++c) {
       for (int coordinate = 1; coordinate <= 3; ++coordinate) {
@@ -206,6 +207,7 @@ void LoadHull(std::string_view text, HullReader reader) {
   if (reader == HullReader::FileList) {
     EraseHull();
   }
+  RestoreUprightHull();
   TextReader in(text);
   ReadFields(in, reader);
   Form1.VScroll1.SetValue(NumChines);

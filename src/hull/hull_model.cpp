@@ -81,6 +81,13 @@ std::string FrameFileText(int frame) {
   return FrameText(frame, PrintText, [](const std::string& text) { return text; });
 }
 
+void RestoreUprightHull() {
+  if (UprightPts) {
+    HullPts = *UprightPts;
+    UprightPts.reset();
+  }
+}
+
 void EraseHull() {
   OffX.Erase();
   OffY.Erase();

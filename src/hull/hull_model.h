@@ -27,13 +27,15 @@ extern OffsetTable OffZ;
 
 /// The interpolated hull, indexed (coordinate 1..3, station 1..13, chine 1..30): coordinate 1 is X,
 /// 2 is Y, 3 is Z. Index 0 of each dimension exists and stays 0. Written by RecomputeHull while
-/// AutoSpline is checked, by the mouse and the hull file while it is not.
+/// AutoSpline is checked, by the mouse and the hull file while it is not, turned by pitch and heel.
 using PointTable = Table<4, Stations + 1, MostChines + 1>;
 extern PointTable HullPts;
 
-/// The upright hull points, kept while HullPts is heeled and AutoSpline is not checked: nothing else
-/// could bring them back then. The next recompute puts them back; a save takes these.
+/// The upright hull points, kept while HullPts is heeled. Without AutoSpline nothing else could bring
+/// them back: a recompute puts them back then, and a save takes these.
 extern std::optional<PointTable> UprightPts;
+/// Puts them back, if any are kept. Whoever changes single hull points does this first.
+void RestoreUprightHull();
 
 /// The place of an extra section: never set, a number of inches, or the text of a hull file's line
 /// that waits to be taken as a number. 0 or less, and a place never set, mean no frame.

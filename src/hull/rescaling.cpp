@@ -4,6 +4,7 @@
 #include <initializer_list>
 
 #include "base/number_text.h"
+#include "base/skipped_statement.h"
 #include "controls/dialogs.h"
 #include "controls/forms.h"
 #include "hull/hull_model.h"
@@ -24,14 +25,15 @@ void Scale(std::initializer_list<OffsetTable*> tables, double factor) {
 /// entered number itself is the factor. Scaling the length shows the new places of the bulkheads.
 void Rescale(const char* prompt, double reference, std::initializer_list<OffsetTable*> tables,
              bool scales_length) {
-  double factor = std::abs(NumberOf(InputBox(prompt, "ReScale", FixedText(reference, 3))));
-  if (factor == 0 || !HasValue(factor)) {
+  const double size = std::abs(NumberOf(InputBox(prompt, "ReScale", FixedText(reference, 3))));
+  if (size == 0 || !HasValue(size)) {
     return;
   }
   if (scales_length) {
-    Form1.Text1[4].Text = PlainText(factor);
+    Form1.Text1[4].Text = PlainText(size);
   }
-  Store(factor, factor / reference);
+  double factor = size;
+  Store(factor, size / reference);
   Scale(tables, factor);
   if (scales_length) {
     for (int k = 1; k <= 3; ++k) {

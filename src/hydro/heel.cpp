@@ -50,9 +50,10 @@ struct SectionTurn {
   double sine;
 };
 
-/// Without AutoSpline nothing but a copy can bring the upright points back.
+/// Without AutoSpline nothing but a copy can bring the upright points back, and it may be unchecked
+/// while the hull is heeled.
 void KeepUprightPoints() {
-  if (!Form1.AutoSpline.Checked && !UprightPts) {
+  if (!UprightPts) {
     UprightPts = HullPts;
   }
 }
@@ -211,20 +212,21 @@ Verdict SearchTurn(double angle) {
   return Decide();
 }
 
-std::string Logo() {
+/// What both outcomes tell behind the angle.
+std::string WeightAndHint() {
   return " degrees, displ:" + FixedText(Heel.TotalLbs, 0) + "lbs. Click \"TD\" logo.";
 }
 
 void ReportFailure() {
   Heel.Outcome = HeelOutcome::Failed;
   Form1.Refresh();
-  Form1.StatusBar1.Panels[1] =
-      "Sunk or failed at WL:" + FixedText(WaterlineY, 1) + "\" at:" + FixedText(HeelAngle, 1) + Logo();
+  Form1.StatusBar1.Panels[1] = "Sunk or failed at WL:" + FixedText(WaterlineY, 1) +
+                               "\" at:" + FixedText(HeelAngle, 1) + WeightAndHint();
 }
 
 void ReportSolution() {
   Heel.Outcome = HeelOutcome::Solved;
-  Form1.StatusBar1.Panels[1] = "Heeled WL at:" + FixedText(HeelAngle, 1) + Logo();
+  Form1.StatusBar1.Panels[1] = "Heeled WL at:" + FixedText(HeelAngle, 1) + WeightAndHint();
   constexpr double pounds_per_cubic_foot = 62.4;  // whichever water is chosen
   FillResults("Results, Heeled " + FixedText(HeelAngle, 1) + " degrees",
               {
@@ -259,6 +261,10 @@ double LowestPoint() {
   return lowest;
 }
 
+void ResetHeel() {
+  Heel = HeelState{};
+}
+
 void EnterHeel_Click() {
   TargetDisplacement = DisplacementLbs;
   Store(HeelAngle,
@@ -274,7 +280,7 @@ void ComputeHeel() {
   if (TargetDisplacement == 0) {
     TargetDisplacement = DisplacementLbs;
   }
-  Heel = HeelState{};
+  ResetHeel();
   Heel.NominalWaterlineY = WaterlineY;
   const double angle = Radians(-HeelAngle);
   FindCenterOfGravity(angle);

@@ -23,6 +23,9 @@ struct HeelState {
 };
 extern HeelState Heel;
 
+/// The state before anything was heeled.
+void ResetHeel();
+
 /// The smallest Y of the hull points as they are, at most 1000.
 double LowestPoint();
 

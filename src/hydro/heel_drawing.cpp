@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <string>
 
 #include "base/number_text.h"
 #include "base/skipped_statement.h"
@@ -146,7 +147,7 @@ void StartHeelDrawing() {
   const double M = ViewMargin;
   const double a = Quotient(picture.Height(), picture.Width());
   const double reach = std::hypot(HullMaxX, HullMaxY) + M;  // of any node at any heel
-  const double lowest = -HullMaxX - M;
+  const double lowest = -reach;
   const double length = HullMaxZ + 2 * M;
   if (CurrentView() == View::Sections) {
     const double width = std::max(2 * reach, (reach - lowest) / a);

@@ -3,7 +3,7 @@
 // volumes cubic inches, weights pounds, angles degrees.
 
 /// Input of the pass.
-extern double WaterlineY;    ///< height of the waterline; written through HScroll1 alone
+extern double WaterlineY;  ///< height of the waterline; the searches write it too, all else goes by HScroll1
 extern double WaterDensity;  ///< pounds per US gallon
 
 inline constexpr double FreshwaterDensity = 8.3305;  ///< at 20 degrees C
@@ -15,7 +15,7 @@ extern float DisplacementLbs;   ///< whole hull
 extern float WaterlineLength;
 extern double WaterlineForeZ;
 extern double WaterlineAftZ;
-extern double BuoyancyCenterX;  ///< of one half of the hull
+extern double BuoyancyCenterX;  ///< of one half of an upright hull, of all of a heeled one
 extern double BuoyancyCenterY;
 extern double BuoyancyCenterZ;
 extern double LateralArea;  ///< immersed profile
@@ -28,9 +28,9 @@ extern double DLRatio;              ///< long tons over the cube of a hundredth 
 extern double SLRatioLimit;         ///< speed/length ratio limited by DLRatio
 extern double DisplacementSpeedKt;  ///< knots
 
-/// The two ways to ask for a waterline.
+/// What was asked for, and whether the last search for a displacement came to its target.
 extern double TargetDisplacement;  ///< pounds; 0 until set
-extern bool TargetReached;         ///< whether the last search came to its target
+extern bool TargetReached;
 extern double HeelAngle;
 
 /// Center of gravity of the heel: by definition the centroid of the whole hull volume.

@@ -1,6 +1,7 @@
 #include "hydro/results.h"
 
 #include <cmath>
+#include <utility>
 
 #include "base/number_text.h"
 #include "base/skipped_statement.h"
@@ -8,13 +9,14 @@
 #include "hydro/hydrostatics.h"
 
 void FillResults(const std::string& title, const std::vector<ResultRow>& rows) {
-  Form1.Combo1.Clear();
-  Form1.Combo1.Text = title;
+  std::vector<std::string> texts;
   for (const ResultRow& row : rows) {
     if (HasValue(row.value)) {
-      Form1.Combo1.AddRow(row.label + FixedText(row.value, row.decimals) + row.unit);
+      texts.push_back(row.label + FixedText(row.value, row.decimals) + row.unit);
     }
   }
+  Form1.Combo1.SetRows(std::move(texts));
+  Form1.Combo1.Text = title;
   Form1.Combo1.Visible = true;
 }
 

@@ -98,7 +98,9 @@ void Contours_Click() {
   if (!Form1.EnterWaterline.Checked) {
     ShowWaterlineBar(10);
     if (WaterlineY == 0) {
-      SetWaterlineBar(Form1.HScroll1.Max() * 0.4 / 10);
+      if (const auto tenths = ToWhole(Form1.HScroll1.Max() * 0.4)) {
+        Form1.HScroll1.SetValue(*tenths);
+      }
     }
   }
   Form1.Sections.Checked = false;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <string>
 
 #include "base/number_text.h"
 #include "base/skipped_statement.h"
@@ -22,20 +23,21 @@ double LastDisplacement() {
   return (WaterDensity * DisplacedVolume) / 231;
 }
 
-/// What an interpolation that can't be worked out does: the displacement command goes on with the
-/// next inch, the pitch command leaves the waterline at the inch that it has.
-enum class OnFailure { NextInch, Skip };
+/// What the two commands do differently at the end. The displacement command goes on with the next
+/// inch when the interpolation can't be worked out, and clips its result into the bar's range; the
+/// pitch command skips both statements.
+enum class Search { Displacement, Pitch };
 
-/// Brings a rounded waterline into the bar's range instead of skipping it.
 void ClipToBar() {
-  SetWaterlineBar(std::clamp(WaterlineY, Form1.HScroll1.Low() / 10.0, Form1.HScroll1.High() / 10.0));
+  WaterlineY = std::clamp(WaterlineY, Form1.HScroll1.Low() / 10.0, Form1.HScroll1.High() / 10.0);
 }
 
-/// Sets TargetReached. Each turn goes one inch up, so the range's end bounds the search.
-void SearchTarget(OnFailure on_failure) {
+/// From the bottom inch by inch. Sets TargetReached. The range's end bounds the search.
+void SearchTarget(Search search) {
   TargetReached = false;
+  WaterlineY = 0;
+  double computed = 0;
   while (true) {
-    const double computed = WaterlineY;
     WaterlineY = WaterlineY + 1;
     const double prev = LastDisplacement();
     if (!(WaterlineY * 10 <= Form1.HScroll1.Max())) {
@@ -43,18 +45,23 @@ void SearchTarget(OnFailure on_failure) {
       return;
     }
     SetWaterlineBar(WaterlineY);
+    computed = WaterlineY;
     const double now = LastDisplacement();
     if (!(TargetDisplacement < now)) {
       continue;
     }
     const double found = (WaterlineY - 1) + (TargetDisplacement - prev) / (now - prev);
-    if (HasValue(found) || on_failure == OnFailure::Skip) {
-      Store(WaterlineY, found);
-      ClipToBar();
-      TargetReached = true;
-      return;
+    if (search == Search::Displacement && !HasValue(found)) {
+      WaterlineY = WaterlineY + 1;
+      continue;
     }
-    WaterlineY = WaterlineY + 1;
+    Store(WaterlineY, found);
+    if (search == Search::Displacement) {
+      ClipToBar();
+    }
+    SetWaterlineBar(WaterlineY);
+    TargetReached = true;
+    return;
   }
 }
 
@@ -87,7 +94,7 @@ void displacement_Click() {
   }
   ShowWaterlineBar(0);
   OfferHeelAndPlan();
-  SearchTarget(OnFailure::NextInch);
+  SearchTarget(Search::Displacement);
 }
 
 void EnterPitch_Click() {
@@ -105,8 +112,7 @@ void EnterPitch_Click() {
   if (TargetDisplacement == 0) {
     TargetDisplacement = DisplacementLbs;
   }
-  WaterlineY = 0;
-  SearchTarget(OnFailure::Skip);
+  SearchTarget(Search::Pitch);
 }
 
 void ResetPitchWarning() {

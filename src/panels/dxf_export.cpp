@@ -1,5 +1,8 @@
 #include "panels/dxf_export.h"
 
+#include <array>
+#include <cstring>
+
 #include "base/files.h"
 #include "base/number_text.h"
 #include "base/text_lines.h"
@@ -11,43 +14,74 @@
 
 namespace {
 
-/// A point as the texts of its coordinates: most points end one line and start the next.
-struct PointText {
-  static void Set(std::string& text, double value) {
+/// The text of one coordinate. Most points end one line and start the next, so texts are kept, and
+/// in a place of fixed size, so that copying one takes no call.
+class CoordinateText {
+ public:
+  void Set(double value) {
     if (HasValue(value)) {
-      text.clear();
-      AppendPrintText(text, value);
+      size_ = WritePrintText(text_.data(), value);
     }
   }
+  /// Writes NumberRoom characters, of which the returned number count.
+  std::size_t CopyTo(char* to) const {
+    std::memcpy(to, text_.data(), NumberRoom);
+    return size_;
+  }
 
-  std::string x = " 0 ";
-  std::string y = " 0 ";
+ private:
+  std::array<char, NumberRoom> text_{' ', '0', ' '};
+  std::size_t size_ = 3;
+};
+
+struct PointText {
+  CoordinateText x;
+  CoordinateText y;
 
   void Read(std::string_view line) {
     const PlotPoint p = ReadMove(line);
-    Set(x, p.x);
-    Set(y, p.y);
+    x.Set(p.x);
+    y.Set(p.y);
   }
 };
 
-void PutGroup(std::string& out, std::string_view code, std::string_view value) {
-  out += code;
-  out += value;
-  out += LineEnd;
-}
+/// Puts a record together and appends it at once, since a drawing has many thousands of them.
+class Record {
+ public:
+  template <std::size_t Size>
+  Record& Put(const char (&part)[Size]) {
+    std::memcpy(at_, part, Size - 1);
+    at_ += Size - 1;
+    return *this;
+  }
+  Record& Put(const CoordinateText& value) {
+    at_ += value.CopyTo(at_);
+    return *this;
+  }
+  void AppendTo(std::string& out) const {
+    out.append(text_.data(), static_cast<std::size_t>(at_ - text_.data()));
+  }
+
+ private:
+  // Four coordinates, the last with its whole room, and the words around them.
+  std::array<char, 4 * NumberRoom + 64> text_;
+  char* at_ = text_.data();
+};
 
 void PutDxfLine(std::string& out, const PointText& from, const PointText& to) {
-  out += DxfLine;
-  PutGroup(out, " 10\r\n", from.x);
-  PutGroup(out, " 20\r\n", from.y);
-  PutGroup(out, " 11\r\n", to.x);
-  PutGroup(out, " 21\r\n", to.y);
+  Record record;
+  record.Put("  0\r\nLINE\r\n  8\r\n0\r\n 10\r\n").Put(from.x).Put("\r\n 20\r\n").Put(from.y);
+  record.Put("\r\n 11\r\n").Put(to.x).Put("\r\n 21\r\n").Put(to.y).Put("\r\n").AppendTo(out);
 }
 
 void PutVertex(std::string& out, const PointText& at) {
-  out += DxfVertex;
-  PutGroup(out, " 10\r\n", at.x);
-  PutGroup(out, " 20\r\n", at.y);
+  Record record;
+  record.Put("  0\r\nVERTEX\r\n  8\r\n0\r\n 10\r\n")
+      .Put(at.x)
+      .Put("\r\n 20\r\n")
+      .Put(at.y)
+      .Put("\r\n")
+      .AppendTo(out);
 }
 
 /// The run of points behind a "start_spline" line. It doesn't depend on the pen.
@@ -76,9 +110,10 @@ std::string DxfOfPattern(std::string_view pattern, DxfPen& pen) {
   TextReader in(pattern);
   std::string_view line;
   while (in.ReadLine(line)) {
-    if (Contains(line, "penup")) {
+    const bool names_pen = Contains(line, "pen");
+    if (names_pen && Contains(line, "penup")) {
       pen.down = false;
-    } else if (Contains(line, "pendown")) {
+    } else if (names_pen && Contains(line, "pendown")) {
       pen.down = true;
     } else if (Contains(line, "acut") || Contains(line, "aline")) {
       last = current;

@@ -7,7 +7,6 @@
 
 inline constexpr std::string_view DxfFileHead = "  0\r\nSECTION\r\n  2\r\nENTITIES\r\n";
 inline constexpr std::string_view DxfFileTail = "  0\r\nENDSEC\r\n  0\r\nEOF\r\n";
-inline constexpr std::string_view DxfLine = "  0\r\nLINE\r\n  8\r\n0\r\n";
 inline constexpr std::string_view DxfPolyline =
     "  0\r\nPOLYLINE\r\n  8\r\n0\r\n 66\r\n     1\r\n 10\r\n0.0\r\n 20\r\n0.0\r\n";
 inline constexpr std::string_view DxfPolylineEnd = "  0\r\nSEQEND\r\n";

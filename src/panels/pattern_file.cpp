@@ -1,5 +1,7 @@
 #include "panels/pattern_file.h"
 
+#include <cstdint>
+
 #include "base/number_text.h"
 #include "base/skipped_statement.h"
 #include "base/text_lines.h"
@@ -14,6 +16,23 @@ void PutEdge(std::string& out, double length, bool padding) {
     AppendPrintText(out, length);
     out += LineEnd;
   }
+}
+
+/// The short way for what writers put: a whole number of up to 15 digits with one blank behind it.
+bool ReadWholeField(std::string_view line, std::size_t& at, double& value) {
+  const bool negative = at < line.size() && line[at] == '-';
+  const std::size_t first = at + (negative ? 1 : 0);
+  std::size_t end = first;
+  std::int64_t whole = 0;
+  while (end < line.size() && end - first < 15 && line[end] >= '0' && line[end] <= '9') {
+    whole = whole * 10 + (line[end++] - '0');
+  }
+  if (end == first || end >= line.size() || line[end] != ' ') {
+    return false;
+  }
+  at = end + 1;
+  value = negative ? -static_cast<double>(whole) : static_cast<double>(whole);
+  return true;
 }
 
 }  // namespace
@@ -34,6 +53,12 @@ MoveFields SplitMove(std::string_view line) {
 }
 
 PlotPoint ReadMove(std::string_view line) {
+  double whole_x = 0;
+  double whole_y = 0;
+  std::size_t at = 0;
+  if (ReadWholeField(line, at, whole_x) && ReadWholeField(line, at, whole_y)) {
+    return {whole_x / PlotXScale, whole_y / PlotYScale};
+  }
   const MoveFields fields = SplitMove(line);
   return {NumberOf(fields.x) / PlotXScale, NumberOf(fields.y) / PlotYScale};
 }

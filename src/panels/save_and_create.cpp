@@ -48,11 +48,17 @@ void CreatePatterns() {
 }  // namespace
 
 void SaveAndCreate() {
+  // The stages read what stages before wrote, and some files are written twice. Each goes to the
+  // disk once, at the end.
+  const bool by_ourselves = HoldBackChanges();
   if (Form3.Check1.Value) {
     CreatePatterns();
   }
   WriteHullFile(HullFileName);
   CopyTextFile(HullFileName, "default.tvh");
+  if (by_ourselves) {
+    WriteChanges();
+  }
   Form1.StatusBar1.Panels[1] = "Working on..." + HullFileName;
   Form1.Refresh();
   Form3.File1.Refresh();

@@ -5,6 +5,7 @@
 #include "controls/forms.h"
 #include "hull/hull_model.h"
 #include "hull/plot_scale.h"
+#include "hydro/heel.h"
 #include "hydro/hydrostatics.h"
 #include "hydro/waterline_search.h"
 #include "program/handlers.h"
@@ -16,6 +17,7 @@ void StartProgram() {
   SetDataFolder(ShippedDataFolder());
   SetDefaultHull();
   SetDefaultHydrostatics();
+  ResetHeel();
   ResetPitchWarning();
   Form1.AutoSpline.Checked = true;
   Form1.Freshwater.Checked = true;

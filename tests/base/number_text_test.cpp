@@ -2,8 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
+#include <cstdio>
+#include <cstdlib>
 #include <limits>
+#include <random>
 
 #include "base/print_zones.h"
 #include "base/skipped_statement.h"
@@ -100,6 +104,26 @@ TEST(NumberText, MasksRoundHalfAwayFromZeroAfterFifteenDigits) {
   };
   for (const auto& c : cases) {
     EXPECT_EQ(FixedText(c.value, c.decimals), c.text) << c.value;
+  }
+}
+
+/// The short ways against the C library, on coordinates, on neighbours of halves and on any value.
+TEST(NumberText, ShortWaysAgreeWithTheLibrary) {
+  std::mt19937_64 random(7);
+  std::uniform_real_distribution<double> any(-9999, 9999);
+  for (int i = 0; i < 200000; ++i) {
+    const double coordinate = std::floor(any(random) * 500) / 500;
+    const double near_half = std::floor(any(random)) / 8 + (i % 3 - 1) * 1e-12;
+    for (const double value : {coordinate, near_half, any(random) / 100}) {
+      std::array<char, 40> text{};
+      std::snprintf(text.data(), text.size(), "%.15g", value);
+      if (std::abs(value) >= 1e-4) {
+        ASSERT_EQ(PlainText(value), text.data());
+      }
+      const double fifteen = std::strtod(text.data(), nullptr);
+      std::snprintf(text.data(), text.size(), "%.2f", std::nextafter(fifteen, fifteen * 2));
+      ASSERT_EQ(FixedText(value, 2), value == 0 ? "0.00" : text.data()) << value;
+    }
   }
 }
 

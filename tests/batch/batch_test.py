@@ -126,6 +126,59 @@ class BatchTest(unittest.TestCase):
         for row, point in zip(rows[1:], hull["points"]):
             self.assertEqual([float(text) for text in row.split(",")], list(point.values()))
 
+    def hydrostatics(self, *arguments):
+        done = run("hydrostatics", *arguments, "--format", "json", cwd=self.folder)
+        self.assertEqual(done.returncode, 0, done.stderr)
+        return json.loads(done.stdout)
+
+    def test_hydrostatics_of_a_waterline_and_a_weight(self):
+        at_ten = self.hydrostatics("--waterline", 10)
+        self.assertEqual(at_ten["WaterlineY"], 10)
+        self.assertAlmostEqual(at_ten["DisplacementLbs"], 8.3305 * at_ten["DisplacedVolume"] / 231, places=3)
+        self.assertEqual(len(at_ten["ResultRows"]), 15)
+        self.assertTrue(at_ten["StatusPanel1"].startswith('WL:10.0"'))
+        self.assertNotIn("HeelAngle", at_ten)
+        at_sea = self.hydrostatics("--waterline", 10, "--sea")
+        self.assertEqual(at_sea["WaterDensity"], 8.5556)
+        self.assertEqual(at_sea["DisplacedVolume"], at_ten["DisplacedVolume"])
+        found = self.hydrostatics("--displacement", at_ten["DisplacementLbs"])
+        self.assertAlmostEqual(found["WaterlineY"], 10, delta=0.1)
+        pitched = self.hydrostatics("--waterline", 10, "--pitch", 2)
+        self.assertGreater(pitched["BuoyancyCenterZ"], 0)
+        self.assertNotEqual(pitched["DisplacedVolume"], at_ten["DisplacedVolume"])
+        self.assertEqual(files(self.folder), {}, "no waterplane is left behind")
+        self.hydrostatics("--waterline", 10, "--into", "out")
+        self.assertEqual(list(files(self.folder / "out")), ["watrplne.uc"])
+
+    def test_ranges_and_curves_repeat_what_each_is_alone(self):
+        hull = HULLS / "dory.tvh"
+        levels = self.hydrostatics(hull, "--from", 3, "--to", 4, "--step", 0.5)
+        self.assertEqual(levels, [self.hydrostatics(hull, "--waterline", y) for y in (3, 3.5, 4)])
+        curve = self.hydrostatics(hull, "--displacement", 500, "--heel", "0,10,20")
+        self.assertEqual(curve, [self.hydrostatics(hull, "--displacement", 500, "--heel", a) for a in (0, 10, 20)])
+        self.assertEqual([state["Outcome"] for state in curve], ["solved"] * 3)
+        self.assertEqual(curve[0]["RightingMoment"], 0)
+        self.assertAlmostEqual(curve[1]["RightingMoment"], curve[1]["MomentArm"] / 12 * curve[1]["TotalLbs"])
+        rows = run("hydrostatics", hull, "--from", 3, "--to", 4, "--step", 0.5, "--format", "csv").stdout.splitlines()
+        self.assertEqual(rows[0].split(",")[:2], ["WaterlineY", "WaterDensity"])
+        self.assertEqual([float(row.split(",")[0]) for row in rows[1:]], [3, 3.5, 4])
+        text = run("hydrostatics", hull, "--waterline", 3).stdout
+        self.assertRegex(text, r"Displacement: +\d+ lbs\n")
+
+    def test_hydrostatics_that_can_not_be_had(self):
+        for arguments, word in ((["--waterline", "0.5"], "outside of the hull"), (["--waterline", "99"], "1.0 to 38.0"),
+                                (["--waterline", "8x"], "expected a number"), (["--waterline", "nan"], "expected a number"),
+                                (["--displacement", "1E9"], "can carry"), (["--displacement", "0"], "can carry"),
+                                (["--from", "2", "--to", "1", "--step", "1"], "step above 0")):
+            done = run("hydrostatics", *arguments, cwd=self.folder)
+            self.assertEqual((done.returncode, done.stdout), (1, ""), arguments)
+            self.assertIn(word, done.stderr)
+        drowned = run("hydrostatics", "--waterline", "33", cwd=self.folder)
+        self.assertEqual(drowned.returncode, 0)
+        self.assertIn("drowns the sheer; computed at 28.8", drowned.stderr)
+        for arguments in ([], ["--waterline", "5", "--displacement", "9"], ["--from", "1"]):
+            self.assertEqual(run("hydrostatics", *arguments).returncode, 2)
+
     def test_usage(self):
         for arguments in ([], ["sink"], ["patterns", "--frame", "x"], ["patterns", "--frame", "nan"],
                           ["patterns", "--date", "2026-11-16"], ["patterns", "--date", "13-01-2026"],
@@ -136,7 +189,7 @@ class BatchTest(unittest.TestCase):
             self.assertEqual(done.returncode, 2, arguments)
             self.assertTrue(done.stderr, arguments)
         self.assertEqual(files(self.folder), {})
-        for arguments in (["--help"], ["patterns", "--help"], ["points", "--help"]):
+        for arguments in (["--help"], ["patterns", "--help"], ["points", "--help"], ["hydrostatics", "--help"]):
             done = run(*arguments)
             self.assertEqual(done.returncode, 0)
             for word in ("NAME", "SYNOPSIS", "EXAMPLE"):

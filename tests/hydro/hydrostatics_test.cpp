@@ -1,10 +1,12 @@
 #include "hydro/hydrostatics.h"
 
+#include <array>
 #include <cmath>
 
 #include "base/number_text.h"
 #include "controls/dialogs.h"
 #include "controls/forms.h"
+#include "hull/chine_spline.h"
 #include "hull/hull_file.h"
 #include "hull/hull_model.h"
 #include "hydro/heel.h"
@@ -13,6 +15,7 @@
 #include "hydro/water_planes.h"
 #include "hydro/waterline.h"
 #include "support/program_test.h"
+#include "support/recording_surface.h"
 
 namespace {
 
@@ -302,7 +305,8 @@ TEST_F(Hydrostatics, BothSidesHeelAlike) {
   Float(7);
   Float(8);
   HeelTo("-12");
-  EXPECT_EQ(Heel.Outcome, right.Outcome);
+  EXPECT_EQ(Heel.Outcome, HeelOutcome::Solved);
+  EXPECT_EQ(right.Outcome, HeelOutcome::Solved);
   EXPECT_NEAR(Heel.MomentArm, -right.MomentArm, 1e-9);
   EXPECT_NEAR(Heel.TotalLbs, right.TotalLbs, 1e-9);
 }
@@ -344,7 +348,6 @@ TEST_F(Hydrostatics, AHeelNeverCostsAHullEditedByHand) {
 TEST_F(Hydrostatics, AHeelThatCanNotFloatFails) {
   SetPrism(20, 20);
   Float(19);
-  TargetDisplacement = 0;
   DisplacementLbs = 9e6F;
   HeelTo("30");
   EXPECT_EQ(Heel.Outcome, HeelOutcome::Failed);
@@ -357,6 +360,108 @@ TEST_F(Hydrostatics, AHeelThatCanNotFloatFails) {
   EXPECT_EQ(Heel.Outcome, HeelOutcome::Failed) << "0 degrees changes nothing";
 }
 
+TEST_F(Hydrostatics, TheLatchFailsASearchThatIsHeavyAgain) {
+  Float(14.5);  // the built-in hull: too light in the first turn, one step up and it is too heavy
+  HeelTo("21");
+  EXPECT_EQ(Heel.Outcome, HeelOutcome::Failed);
+  EXPECT_TRUE(Heel.BelowTargetSeen);
+  EXPECT_GT(Heel.TotalLbs, TargetDisplacement + 15);
+  EXPECT_EQ(Heel.Turns, 2);
+}
+
+TEST_F(Hydrostatics, AWaterlineThatSinksToNothingFails) {
+  Float(2);  // the built-in hull: its low side carries more than it weighs at any waterline
+  HeelTo("20");
+  EXPECT_EQ(Heel.Outcome, HeelOutcome::Failed);
+  EXPECT_FALSE(Heel.BelowTargetSeen);
+  EXPECT_LT(WaterlineY, 0.000001);
+  EXPECT_LT(Heel.Turns, 1000);
+}
+
+TEST_F(Hydrostatics, PitchAndTicksFindTheHullUprightAfterAHeel) {
+  SetKeeledBox();
+  Float(8);
+  HeelTo("10");
+  Form1.AutoSpline.Checked = false;
+  Form1.Refresh();
+  EXPECT_NEAR(OffX(3, 2), 20, 1e-9) << "the points read back are the upright ones";
+  HeelTo("10");
+  PitchAngle = 5;
+  ApplyPitch();
+  EXPECT_NEAR(Y(1, 1) - Y(13, 1), 100 * std::sin(5 * 3.1415 / 180), 1e-9);
+  PitchAngle = 0;
+  ApplyPitch();
+  EXPECT_NEAR(Y(13, 1), 0, 1e-9);
+  EXPECT_NEAR(Y(1, 1), 0, 1e-9);
+}
+
+TEST_F(Hydrostatics, ASearchStartsAtTheBottomWhateverTheRangeDid) {
+  SetPrism(20, 20);
+  Float(14);
+  AnswerWith("10");
+  Form1.dummy19.Click();  // half as high: the bar is clamped when the command opens it
+  AnswerWith("500");
+  Form1.displacement.Click();
+  EXPECT_TRUE(TargetReached);
+  EXPECT_NEAR(WaterlineY, 500 * 231 / 8.3305 / 4000, 0.05);
+}
+
+TEST_F(Hydrostatics, TheWaterlineIsDrawnOnAllViewsAfterTheRepaint) {
+  SetPrism(20, 20);
+  std::array<RecordingSurface, 3> views;
+  for (RecordingSurface& view : views) {
+    view.Scale(-5, 30, 95, -5);
+  }
+  Form1.Picture1[0] = &views[0];
+  Form1.Picture1[1] = &views[1];
+  Form1.Picture2 = &views[2];
+  Form1.Refresh = [&] {
+    RecomputeHull();
+    for (RecordingSurface& view : views) {
+      view.Cls();
+    }
+  };
+  Float(8);
+  EXPECT_EQ(views[0].calls, "cls\nline -5.0,8.0 100.0,8.0 c9\n");
+  EXPECT_EQ(views[1].calls, "cls\nline -5.0,8.0 100.0,8.0 c9\n");
+  EXPECT_EQ(views[2].calls, "cls\nline -5.0,8.0 95.0,8.0 c9\n");
+  views[2].Cls();
+  ComputeHydrostatics();
+  EXPECT_TRUE(views[2].calls.starts_with("cls\npoint 0.0,20.0 c-1\nto 8.4,20.0 c6\n"));
+  views[2].Cls();
+  Form1.Contours.Click();
+  EXPECT_EQ(views[2].Count("point 0.0,20.0", " c9"), 9);
+  EXPECT_EQ(views[2].Count("to ", ",20.0 c11"), 9 * 12);
+}
+
+TEST_F(Hydrostatics, EachViewDrawsTheHeeledHull) {
+  RecordingSurface picture;
+  Form1.Picture2 = &picture;
+  SetKeeledBox();
+  for (MenuItem* view : {&Form1.Plan, &Form1.Sections, &Form1.Profile}) {
+    Form1.Plan.Checked = Form1.Sections.Checked = Form1.Profile.Checked = false;
+    view->Checked = true;
+    Float(7);
+    Float(8);
+    HeelTo("5");
+    ASSERT_EQ(Heel.Outcome, HeelOutcome::Solved);
+    EXPECT_TRUE(picture.calls.starts_with("cls\nscale "));
+    // Both sides: three chines of twelve segments, thirteen stations of two; a point a node.
+    EXPECT_EQ(picture.Count("line ", " c7"), 2 * (3 * 12 + 13 * 2));
+    EXPECT_EQ(picture.Count("point ", " c12"), 2 * 3 * 13);
+    const bool profile = view == &Form1.Profile;
+    const bool sections = view == &Form1.Sections;
+    EXPECT_EQ(picture.Count("line ", " c1"), profile ? 2 * 12 : 0) << "the sheer again";
+    EXPECT_EQ(picture.Count("width ", "2"), profile ? 1 : 0);
+    EXPECT_EQ(picture.Count("circle ", ""), profile ? 0 : (sections ? 3 : 2));
+    EXPECT_EQ(picture.Count("circle ", " c5 arc"), sections ? 1 : 0);
+    EXPECT_EQ(picture.Has("print cb c9") && picture.Has("print cg c5"), sections);
+    EXPECT_EQ(picture.Has("print " + FixedText(Heel.RightingMoment, 0) + " ft-lbs c5"), sections);
+    EXPECT_EQ(picture.Count("line ", " c9"), sections ? 4 : (profile ? 2 : 2 * 12 + 2));
+    Form1.Refresh();
+  }
+}
+
 TEST_F(Hydrostatics, ContoursOfferAWaterlineAtFortyPercent) {
   SetPrism(20, 20);
   Form1.Sections.Checked = true;
@@ -364,6 +469,8 @@ TEST_F(Hydrostatics, ContoursOfferAWaterlineAtFortyPercent) {
   EXPECT_EQ(Form1.HScroll1.Value(), 80);
   EXPECT_NEAR(WaterlineY, 8, 1e-12);
   EXPECT_TRUE(Form1.Plan.Checked && !Form1.Sections.Checked);
+  Form1.EnterWaterline.Click();
+  EXPECT_FALSE(Form1.EnterWaterline.Checked || Form1.HScroll1.Visible || Form1.EnterHeel.Enabled);
 }
 
 TEST_F(Hydrostatics, RescalingReachesTheEnteredSize) {

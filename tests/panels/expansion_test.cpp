@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "base/files.h"
+#include "base/number_text.h"
 #include "controls/forms.h"
 #include "hull/hull_model.h"
 #include "hull/plot_scale.h"
@@ -11,6 +12,7 @@
 #include "panels/leveling.h"
 #include "panels/triangulation.h"
 #include "support/program_test.h"
+#include "support/recording_surface.h"
 
 namespace {
 
@@ -74,17 +76,15 @@ TEST_F(Expansion, FailedStatementsKeepTheAngleOfTheTriangleBefore) {
   EXPECT_NEAR(std::hypot(panel.C[1].x - panel.A[1].x, panel.C[1].y - panel.A[1].y),
               std::hypot(local.x, local.y), 1e-9);
 
-  // A first rung of zero: s - b is the whole inradius' denominator, the panel still unfolds.
-  TriangleEdges pointed = Rectangles(2);
-  pointed.cross[0] = 0;
-  pointed.cross[1] = 20;
-  EXPECT_TRUE(std::isfinite(Unfold(pointed).C[3].x));
-
-  // A right side that lies level has no slope: the angle of the last placement stays.
+  // A right side that lies level has no slope: the turn is the angle that the last placement left,
+  // 60 degrees here, and nothing is taken off. The first triangle doesn't close, so its angle is 0.
   TriangleEdges level = Rectangles(1);
-  level.cross = {};
-  level.cross[1] = 20;
-  EXPECT_TRUE(std::isfinite(Unfold(level).C[1].y));
+  level.cross = {20 * std::sin(H), 100, 100};
+  level.upper[1] = 100;
+  const FlatPanel flat = Unfold(level);
+  EXPECT_EQ(flat.C[0].y, flat.D[0].y);
+  EXPECT_NEAR(flat.B[1].x - flat.D[0].x, -100 * std::sqrt(0.75), 1e-9);
+  EXPECT_NEAR(flat.B[1].y - flat.D[0].y, 50, 1e-9);
 }
 
 TEST_F(Expansion, TriangleFilesHoldTheTrueLengths) {
@@ -206,30 +206,15 @@ TEST_F(Expansion, LetteringGoesByTheStrokeFont) {
   EXPECT_EQ(*Form1.StatusBar1.Panels[1], "Missing pedit.fnt, can't output characters");
 }
 
-class PreviewSurface : public DrawSurface {
- public:
-  void Cls() override { calls = "cls"; }
-  void Scale(double x1, double y1, double x2, double y2) override { corners = {x1, y1, x2, y2}; }
-  void Line(double, double, double, double, int colour) override { calls += colour == 2 ? "." : "?"; }
-  double Width() const override { return 200; }
-  double Height() const override { return 100; }
-
-  std::string calls;
-  std::vector<double> corners;
-};
-
 TEST_F(Expansion, ThePreviewFramesThePanel) {
-  PreviewSurface surface;
+  RecordingSurface surface;
   Form1.Picture2 = &surface;
   Write("chine1.tri", TriangleText(Rectangles(12)));
   ExpandOnePanel("chine1.tri");
-  EXPECT_EQ(surface.calls, "cls" + std::string(24 * 4, '.'));
-  ASSERT_EQ(surface.corners.size(), 4U);
   const FlatPanel panel = Unfold(Rectangles(12));
-  EXPECT_NEAR(surface.corners[0], panel.min_x - 10, 1e-9);
-  EXPECT_NEAR(surface.corners[1], (panel.max_x - panel.min_x) * 0.5 + 10, 1e-9);
-  EXPECT_NEAR(surface.corners[3], panel.min_y - 10, 1e-9);
-  Form1.Picture2 = nullptr;
+  EXPECT_EQ(surface.Count("line ", " c2"), 24 * 4);
+  EXPECT_TRUE(surface.calls.starts_with("cls\nscale " + FixedText(panel.min_x - 10, 1) + "," +
+                                        FixedText((panel.max_x - panel.min_x) * 0.5 + 10, 1) + " "));
 }
 
 }  // namespace
