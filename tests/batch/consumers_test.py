@@ -34,6 +34,26 @@ def drawn_lines(moves):
     return [(start[:2], end[:2]) for start, end in zip([(0, 0, False)] + moves, moves) if end[2]]
 
 
+def read_edges(path):
+    """The two long edges of a panel's outline as points in inches. Both start and end with a marked
+    point, so two marked points in a row part them."""
+    edges, marked, was_marked = [[]], False, False
+    lines = path.read_text().splitlines()
+    for line in lines[lines.index("0 pendown") + 1:]:
+        if "acut" in line:
+            point = tuple(int(n) / 500 for n in line.split()[:2])
+            if marked and was_marked:
+                edges.append([])
+            edges[-1].append(point)
+            was_marked, marked = marked, False
+        marked = marked or "hand plot" in line
+    return edges
+
+
+def length(points):
+    return sum(math.dist(start, end) for start, end in zip(points, points[1:]))
+
+
 class ConsumersTest(unittest.TestCase):
     def check_plotter_file(self, path, moves, scratch):
         done = subprocess.run(["hp2xx", "-t", "-m", "hpgl", "-f", scratch / "out.hpgl", path],
@@ -75,6 +95,21 @@ class ConsumersTest(unittest.TestCase):
                 self.assertEqual(hull_drawing.audit().errors, [])
                 chines = int(hull.read_text().split()[0])
                 self.assertEqual(len(hull_drawing.modelspace().query("POLYLINE")), 3 * (5 + chines))
+                self.check_seams(folder, chines)
+
+
+    def check_seams(self, folder, chines):
+        """The same chine is equally long on both of its panels, and so are the outlines."""
+        below = None
+        for c in range(1, chines):
+            numbers = [float(n) for n in (folder / f"chine{c}.tri").read_text().split()]
+            upper, lower = numbers[1:26][1:24:2], numbers[52:77][0:24:2]
+            self.assertTrue(below is None or below == lower, c)
+            below = upper
+            edges = read_edges(folder / f"chine{c}.uc")
+            self.assertEqual(len(edges), 2)
+            self.assertAlmostEqual(length(edges[0]), sum(upper), delta=0.05)
+            self.assertAlmostEqual(length(edges[1]), sum(lower), delta=0.05)
 
 
 if __name__ == "__main__":
