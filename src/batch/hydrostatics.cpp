@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <cmath>
 #include <iomanip>
 #include <iostream>
 #include <nlohmann/json.hpp>
@@ -152,9 +151,9 @@ std::vector<Task> ListTasks(const HydrostaticsArguments& arguments) {
   std::vector<std::optional<double>> waterlines = {arguments.waterline};
   if (arguments.from) {
     constexpr double rounding = 1e-9;  // so that 1 to 2 in steps of 0.1 ends with 2
-    const double last = std::floor((*arguments.to - *arguments.from) / *arguments.step + rounding);
+    const int last = static_cast<int>((*arguments.to - *arguments.from) / *arguments.step + rounding);
     waterlines.clear();
-    for (double i = 0; i <= last; ++i) {
+    for (int i = 0; i <= last; ++i) {
       waterlines.emplace_back(*arguments.from + i * *arguments.step);
     }
   }
