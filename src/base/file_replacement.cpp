@@ -82,8 +82,9 @@ Replacement BeginReplacement(const fs::path& path, std::string_view text) {
     replacement.problem = WriteAndClose(Open(path, "wb"), text);
     return replacement;
   }
-  if (fs::exists(old) && fs::is_symlink(path, failed)) {
-    replacement.target = fs::canonical(path, failed);  // the link stays, its file is replaced
+  if (fs::is_symlink(path, failed)) {
+    const fs::path linked = fs::weakly_canonical(path, failed);
+    replacement.target = failed ? path : linked;  // the link stays, its file is replaced
   }
   replacement.problem = WriteAndClose(OpenBeside(replacement.target, replacement.beside), text);
   if (!replacement.problem.empty()) {
@@ -94,17 +95,17 @@ Replacement BeginReplacement(const fs::path& path, std::string_view text) {
   return replacement;
 }
 
-std::string FinishReplacement(const Replacement& replacement) {
+std::string FinishReplacement(Replacement& replacement) {
   if (replacement.beside.empty()) {
     return {};
   }
   std::error_code failed;
   fs::rename(replacement.beside, replacement.target, failed);
-  if (!failed) {
-    return {};
+  if (failed) {
+    CancelReplacement(replacement);
   }
-  CancelReplacement(replacement);
-  return failed.message();
+  replacement.beside.clear();
+  return failed ? failed.message() : std::string();
 }
 
 void CancelReplacement(const Replacement& replacement) {

@@ -21,8 +21,8 @@ struct Replacement {
 /// Writes the text beside its target. A device takes it as it comes.
 Replacement BeginReplacement(const std::filesystem::path& path, std::string_view text);
 
-/// Moves the text over its target; why it could not be done otherwise.
-std::string FinishReplacement(const Replacement& replacement);
+/// Moves the text over its target; why it could not be done otherwise. Nothing is beside it after.
+std::string FinishReplacement(Replacement& replacement);
 
 /// Takes the text beside the target away again.
 void CancelReplacement(const Replacement& replacement);

@@ -66,7 +66,7 @@ std::optional<std::string> ReadAll(const fs::path& path) {
   }
   std::error_code failed;
   const std::uintmax_t size = fs::file_size(path, failed);
-  const std::size_t chunk = failed ? 65536 : std::min<std::uintmax_t>(size, MostBytes) + 1;
+  const std::size_t chunk = failed || size == 0 ? 65536 : std::min<std::uintmax_t>(size, MostBytes) + 1;
   std::string text;
   std::size_t used = 0;
   std::size_t taken = chunk;
@@ -84,7 +84,7 @@ std::optional<std::string> ReadAll(const fs::path& path) {
 }
 
 bool WriteNow(const fs::path& path, std::string_view text) {
-  const Replacement replacement = BeginReplacement(path, text);
+  Replacement replacement = BeginReplacement(path, text);
   const std::string problem =
       replacement.problem.empty() ? FinishReplacement(replacement) : replacement.problem;
   if (!problem.empty()) {
@@ -104,7 +104,7 @@ void DeleteNow(const fs::path& path) {
   }
 }
 
-/// Everything that can go wrong goes wrong here, before anything has changed.
+/// What can be told before anything has changed, a full disk above all, goes wrong here.
 bool PrepareAll(const std::vector<HeldChange>& changes, std::vector<Replacement>& prepared) {
   for (const HeldChange& change : changes) {
     prepared.push_back(change.text ? BeginReplacement(change.path, *change.text)
@@ -116,20 +116,21 @@ bool PrepareAll(const std::vector<HeldChange>& changes, std::vector<Replacement>
   return true;
 }
 
-bool FinishAll(const std::vector<HeldChange>& changes, const std::vector<Replacement>& prepared) {
+bool FinishAll(const std::vector<HeldChange>& changes, std::vector<Replacement>& prepared) {
   bool all = true;
   for (std::size_t i = 0; i < changes.size(); ++i) {
     const HeldChange& change = changes[i];
     std::error_code failed;
     if (!change.text) {
       fs::remove(change.path, failed);
+      all = (!failed || Fail(change.path, failed.message())) && all;
       continue;
     }
     const std::string problem = FinishReplacement(prepared[i]);
     if (problem.empty()) {
       FileWritten(change.path, change.text->size());
     } else {
-      all = Fail(change.path, problem);
+      all = Fail(change.path, problem + "; other files may be replaced already");
     }
   }
   return all;

@@ -3,8 +3,8 @@
 // so that nothing is ever half written.
 //
 // Names are relative to the working folder unless they are whole paths, and letter case doesn't
-// count when a file is looked for. Files are read and written whole. A failure changes nothing on
-// disk and is told to FileFailed only: the windows leave that slot empty, the command line program
+// count when a file is looked for. Files are read and written whole. A failure leaves the file as it
+// was and is told to FileFailed only: the windows leave that slot empty, the command line program
 // reports from it.
 
 #include <cstddef>
@@ -55,9 +55,11 @@ void KeepAsItIs(const std::filesystem::path& path);
 bool HoldBackChanges();
 /// Does what was held back, each file by itself: one that fails doesn't stop the others.
 void WriteChanges();
-/// Does all that was held back, or nothing of it: every text is written beside its target first,
-/// and only when all of them are there the old files go and the new ones take their names. False,
-/// with the reason told, if nothing was done.
+/// Does what was held back together: every text is written beside its target first, and only when all
+/// of them are there the old files go and the new ones take their names. False, with the reason
+/// told, if something failed. What a full disk or a file that can't be written to makes fail is
+/// found before anything has changed; each file is whole at any moment, but a run that is killed
+/// while the names change leaves some of the old files and some of the new ones.
 bool CommitChanges();
 /// Forgets all that was held back.
 void DropChanges();

@@ -2,6 +2,7 @@
 // File changes that are held back in memory: what is to be written or deleted, and how the folders
 // look with that done. For base/files alone.
 
+#include <cstddef>
 #include <filesystem>
 #include <map>
 #include <optional>

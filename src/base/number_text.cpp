@@ -263,6 +263,9 @@ void RoundDecimal(Decimal& decimal, int decimals) {
 bool AppendFixedShort(std::string& out, char sign, double magnitude, int decimals) {
   constexpr std::array<double, 4> powers = {1, 10, 100, 1000};
   constexpr double near = 1e-4;
+  if (decimals >= static_cast<int>(powers.size())) {
+    return false;
+  }
   const double scaled = magnitude * powers[static_cast<std::size_t>(decimals)];
   if (!(scaled < 1e9) || std::abs(scaled - std::floor(scaled) - 0.5) < near) {
     return false;

@@ -3,6 +3,7 @@
 // print form of files, the masks of the windows and tables, and the whole-number rules. A number
 // that has no value gives an empty text.
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>

@@ -2,6 +2,7 @@
 // Texts as lines and as delimited items. A text is a whole file in memory: reading it can't fail
 // half way, and no count that stands in a file decides how much is kept.
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 

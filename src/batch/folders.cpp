@@ -1,18 +1,22 @@
 #include "batch/folders.h"
 
+#include <system_error>
+
 #include "batch/report.h"
 
 namespace fs = std::filesystem;
 
 fs::path FolderPath(const std::string& name) {
-  const fs::path folder = fs::absolute(name).lexically_normal();
+  std::error_code failed;
+  const fs::path folder = fs::weakly_canonical(fs::absolute(name), failed);
   return folder.has_filename() ? folder : folder.parent_path();
 }
 
 bool MakeFolder(const fs::path& folder) {
   std::error_code failed;
   fs::create_directories(folder, failed);
-  if (!fs::is_directory(folder)) {
+  std::error_code unknown;
+  if (!fs::is_directory(folder, unknown)) {
     Complain(folder.string() +
              ": expected a folder to write in: " + (failed ? failed.message() : "is a file"));
     return false;

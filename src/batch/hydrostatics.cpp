@@ -1,8 +1,10 @@
 #include <algorithm>
+#include <filesystem>
 #include <iomanip>
 #include <iostream>
 #include <nlohmann/json.hpp>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "base/files.h"
@@ -226,6 +228,7 @@ int RunHydrostatics(const HydrostaticsArguments& arguments) {
   Json states = Json::array();
   for (const Task& task : ListTasks(arguments)) {
     if (!AddState(states, *hull, arguments, task)) {
+      DropChanges();
       return CouldNot;
     }
   }

@@ -1,6 +1,7 @@
 // The command line program: its arguments, and the exit status 0 done, 1 could not do it, 2 usage.
 
 #include <CLI/CLI.hpp>
+#include <exception>
 #include <functional>
 #include <iostream>
 #include <memory>

@@ -2,6 +2,9 @@
 #include <filesystem>
 #include <iostream>
 #include <optional>
+#include <string>
+#include <system_error>
+#include <vector>
 
 #include "base/clock.h"
 #include "base/files.h"
@@ -38,16 +41,28 @@ void ReplaceFrames(const std::vector<double>& frames) {
   }
 }
 
-/// Whether a hull file's own name is one that the run itself writes or deletes: its copy would take
-/// the place of a pattern, or a pattern that of the copy.
+/// Whether a hull file's own name is one that the run itself writes, deletes or reads: its copy would
+/// take the place of such a file, or such a file that of the copy.
 bool NameIsTaken(const std::string& name) {
   const std::string lower = LowerCase(name);
-  for (const char* ending : {".uc", ".tri", ".plt", ".dxf"}) {
+  for (const char* ending : {".uc", ".tri", ".plt", ".dxf", ".fnt", ".dat"}) {
     if (lower.ends_with(ending)) {
       return true;
     }
   }
-  return lower == "temp" || lower == "handplot.txt";
+  return lower == "temp" || lower == "temp.txt" || lower == "handplot.txt";
+}
+
+/// Whether the hull's drawing would be named like the export of a part: "chine1.tvh", "keel.tvh".
+bool DrawingIsNamedLikeAPart(const std::string& hull) {
+  const std::string own = LowerCase(hull.substr(0, hull.find('.')));
+  const std::string part = own.substr(0, own.find_last_not_of("0123456789") + 1);
+  for (const char* taken : {"chine", "bhead", "frame", "sole"}) {
+    if (part == taken && own != part) {
+      return true;
+    }
+  }
+  return own == "deck" || own == "keel" || own == "stem" || own == "transom" || own == "4x8";
 }
 
 /// The hull file is left as it was, even where its copy would go.
@@ -69,6 +84,7 @@ void PressSave(const PatternsArguments& arguments, const fs::path& export_folder
   Dummy4_Click();
   HullFileName = own_name;
   Form3.Text6.Text = export_folder.string();
+  ExportPath = (export_folder / "").string();  // as the system names it, not as somebody typed it
   SetCheckBoxes(arguments);
   Form3.Command1.Click();
 }
@@ -88,6 +104,10 @@ int RunPatterns(const PatternsArguments& arguments) {
   }
   const fs::path folder = FolderPath(arguments.into);
   const fs::path export_folder = arguments.export_path.empty() ? folder : FolderPath(arguments.export_path);
+  if (arguments.dxf && export_folder == folder && DrawingIsNamedLikeAPart(hull->name)) {
+    return Complain(hull->name +
+                    ": its drawing and a part would be one file; expected another name or --export-path");
+  }
   if (!hull->name.empty()) {
     ProtectHull(arguments.hull, folder / hull->name);
   }

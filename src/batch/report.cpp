@@ -59,6 +59,7 @@ void ShowProgress() {
 }
 
 void EndProgress() {
+  Form1.StatusBar1.Panels[1].Show = nullptr;
   if (StandardErrorIsTerminal()) {
     std::cerr << "\r\033[K" << std::flush;
   }

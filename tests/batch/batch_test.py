@@ -227,7 +227,10 @@ class BatchTest(unittest.TestCase):
         self.fails_and_changes_nothing(old, "--export-path", "/proc/none", named="/proc/none")
 
     def test_names_that_the_run_needs_for_itself(self):
-        for name in ("chine1.uc", "boat.TRI", "handplot.txt", "temp"):
+        named_like_a_part = run("patterns", self.hull(name="Chine1.tvh"), "--into", self.folder / "x", "--dxf")
+        self.assertEqual(named_like_a_part.returncode, 1)
+        self.assertIn("would be one file", named_like_a_part.stderr)
+        for name in ("chine1.uc", "boat.TRI", "handplot.txt", "temp", "pedit.fnt"):
             hull = self.hull(name=name)
             before = hull.read_bytes()
             done = run("patterns", hull, "--into", self.folder)
