@@ -40,3 +40,23 @@ void ComboBox::SetListIndex(int row) {
   Text = rows_[static_cast<std::size_t>(row)];
   Click();
 }
+
+void ListBox::AddItem(std::string row) {
+  rows_.push_back(std::move(row));
+  Show();
+}
+
+void ListBox::Clear() {
+  rows_.clear();
+  list_index_ = -1;
+  Show();
+}
+
+void ListBox::SetListIndex(int row) {
+  if (row < 0 || row >= static_cast<int>(rows_.size())) {
+    return;
+  }
+  list_index_ = row;
+  Show();
+  Click();
+}

@@ -9,34 +9,49 @@
 #include <vector>
 
 #include "controls/property.h"
+#include "views/draw_surface.h"
+
+/// The codes of the keys that handlers answer to.
+enum KeyCode { NoKey = 0, EnterKey = 13, LeftKey = 37, UpKey = 38, RightKey = 39, DownKey = 40 };
 
 struct Label {
+  explicit Label(std::string caption = {}) : Caption(std::move(caption)) {}
   Property<std::string> Caption;
 };
 
 struct TextBox {
   explicit TextBox(std::string text = {}) : Text(Change, std::move(text)) {}
   Event<> Change;
+  /// A character was typed, told by its code.
+  Event<int> KeyPress;
+  /// The face's slot: the keyboard goes here.
+  Event<> SetFocus;
   Property<std::string> Text;
 };
 
 struct CheckBox {
-  explicit CheckBox(bool checked = false) : Value(Click, checked) {}
+  explicit CheckBox(std::string caption, bool checked = false)
+      : Caption(std::move(caption)), Value(Click, checked) {}
+  Property<std::string> Caption;
   Event<> Click;
   Property<bool> Value;
 };
 
-/// One of a pair: choosing it takes the choice from the other. Click comes to the chosen one only.
+/// One of a group: choosing it takes the choice from the others. Click comes to the chosen one only.
 class OptionButton {
  public:
-  explicit OptionButton(OptionButton* other) : Value(changed_) {
-    changed_ = [this, other] {
+  OptionButton(std::string caption, std::vector<OptionButton*> others)
+      : Caption(std::move(caption)), Value(changed_) {
+    changed_ = [this, group = std::move(others)] {
       if (Value) {
-        other->Value = false;
+        for (OptionButton* other : group) {
+          other->Value = false;
+        }
         Click();
       }
     };
   }
+  Property<std::string> Caption;
   Event<> Click;
 
  private:
@@ -47,6 +62,8 @@ class OptionButton {
 };
 
 struct CommandButton {
+  explicit CommandButton(std::string caption = {}) : Caption(std::move(caption)) {}
+  Property<std::string> Caption;
   Event<> Click;
 };
 
@@ -116,12 +133,80 @@ class ComboBox {
   int list_index_ = -1;
 };
 
+/// A list that is always open.
+class ListBox {
+ public:
+  Event<> Click;
+  /// The face's slot: put the rows and the choice on the screen.
+  Event<> Show;
+
+  const std::vector<std::string>& Rows() const { return rows_; }
+  void AddItem(std::string row);
+  void Clear();
+
+  /// The chosen row from 0, -1 for none.
+  int ListIndex() const { return list_index_; }
+  /// Chooses a row and raises Click, also for the row that was chosen. A row that isn't there is a
+  /// failed statement.
+  void SetListIndex(int row);
+
+ private:
+  std::vector<std::string> rows_;
+  int list_index_ = -1;
+};
+
 /// A list of the files of one folder; what the user's click leaves chosen.
 struct FileListBox {
   Event<> Click;
   Property<std::string> FileName;
   /// Reads the folder anew.
   Event<> Refresh;
+};
+
+/// A picture with the mouse over it. Handlers draw on its surface by `->` and `*`; a face puts its
+/// own surface in place of the empty one. The mouse comes in the surface's coordinates, with the
+/// button's number: 1 left, 2 right, 0 none.
+class PictureBox {
+ public:
+  PictureBox& operator=(DrawSurface* surface) {
+    surface_ = surface;
+    return *this;
+  }
+  DrawSurface* operator->() const { return surface_; }
+  DrawSurface& operator*() const { return *surface_; }
+
+  /// Fires the paint handler at once.
+  Event<> Refresh;
+  Event<> Click;
+  Event<> DblClick;
+  Event<int, double, double> MouseDown;
+  Event<int, double, double> MouseMove;
+  Event<int, double, double> MouseUp;
+
+ private:
+  DrawSurface no_surface_;
+  DrawSurface* surface_ = &no_surface_;
+};
+
+/// Where a window goes on the screen.
+enum class Place { Centre, TopLeft, BottomRight };
+
+/// What all windows have.
+struct Window {
+  explicit Window(std::string caption) : Caption(std::move(caption)) {}
+
+  Property<std::string> Caption;
+  Property<bool> Visible;
+  /// The face's slot: moves the window on the screen.
+  Event<Place> Move;
+  /// The face's slot: shows the hourglass while a handler works.
+  Property<bool> Busy;
+  /// The user, or a handler, wants the window gone; its handler may refuse by setting the flag.
+  Event<bool&> QueryUnload;
+  /// The window is gone, with what it held.
+  Event<> Unload;
+  /// The window sees a key before its controls do; a handler that uses it up sets it to NoKey.
+  Event<int&> KeyDown;
 };
 
 /// Panels are numbered from 1 to 7.

@@ -1,14 +1,20 @@
 #pragma once
-// Form1, the main window "Tarve Designer 1.91": as much of it as the handlers so far speak to.
+// Form1, the main window "Tarve Designer 1.91".
 
 #include <array>
 
 #include "controls/controls.h"
-#include "views/draw_surface.h"
 
-struct MainWindow {
-  MenuItem Dummy4;  ///< save, create
+struct MainWindow : Window {
+  MainWindow() : Window("Tarve Designer 1.91") {}
+
+  MenuItem dummy2;   ///< open
+  MenuItem Dummy4;   ///< save, create
+  MenuItem dummy21;  ///< clear old patterns
+  MenuItem dummy6;   ///< exit
+  MenuItem dummy8;   ///< offsets table
   MenuItem AutoSpline;
+  MenuItem LockBulkheads;
   MenuItem displacement;
   MenuItem EnterWaterline;
   MenuItem Contours;
@@ -24,11 +30,21 @@ struct MainWindow {
   MenuItem Sections;
   MenuItem Profile;
   MenuItem Plan;
+  /// Checked: the flat views keep one scale on both axes.
+  MenuItem TrueView;
+  MenuItem dummy15;  ///< nesting
 
-  /// Z of bulkheads 0 to 4, as the user typed it.
+  /// Z of bulkheads 0 to 4, as the user typed it. The keyboard is parked in the first one, which has
+  /// no label, after every change of the view.
   std::array<TextBox, 5> Text1{TextBox("0"), TextBox("28''"), TextBox("58''"), TextBox("96''"),
                                TextBox("140''")};
+  Label Label1{"Bkhd 1"};
+  Label Label2{"Bkhd 2"};
+  Label Label3{"Bkhd 3"};
+  Label Label4{"Transm (4)"};
+
   /// The number of chines, and the spinner beside it: its range is reversed, so that up adds one.
+  Label Label5{"Chn"};
   TextBox Text3;
   ScrollBar VScroll1{30, 2, 4};
 
@@ -38,18 +54,23 @@ struct MainWindow {
   ComboBox Combo1{"Results"};
   StatusBar StatusBar1;
 
-  /// The thumbnails of section, profile and plan, and the main drawing surface: a face puts its own
-  /// in place of the empty ones.
-  std::array<DrawSurface*, 3> Picture1{&no_picture, &no_picture, &no_picture};
-  DrawSurface* Picture2 = &no_picture;
-  /// Fires the paint handler of Picture2 at once.
-  Event<> RefreshPicture2;
+  CommandButton Command1{"X"};  ///< spin
+  CommandButton Command5{"Y"};
+  CommandButton Command6{"Z"};
+  CommandButton Command2{"VRML"};
+
+  /// The thumbnails of section, profile and plan; the main drawing surface; the true view's fixed
+  /// picture, on which nothing is drawn.
+  std::array<PictureBox, 3> Picture1;
+  PictureBox Picture2;
+  PictureBox Picture3;
+
+  /// The clock's tick, every 30 seconds.
+  static constexpr int TimerInterval = 30000;  ///< milliseconds
+  Event<> Timer1;
 
   /// Says that the hull changed: fires the paint handler of the form at once.
   Event<> Refresh;
-
- private:
-  DrawSurface no_picture;
 };
 
 extern MainWindow Form1;

@@ -1,11 +1,10 @@
 #pragma once
 // Form2, "Pattern Nesting": as much of it as the handlers so far speak to.
 
-#include "base/event.h"
+#include "controls/controls.h"
 
-struct NestingWindow {
-  /// Closes the window and forgets its parts.
-  Event<> Unload;
+struct NestingWindow : Window {
+  NestingWindow() : Window("Pattern Nesting") {}
 };
 
 extern NestingWindow Form2;

@@ -5,7 +5,9 @@
 
 #include "controls/controls.h"
 
-struct SaveWindow {
+struct SaveWindow : Window {
+  SaveWindow() : Window("Save and Create Patterns") {}
+
   TextBox Text1{"default.tvh"};  ///< file name
   FileListBox File1;
 
@@ -17,20 +19,19 @@ struct SaveWindow {
 
   std::array<TextBox, 8> FrameText;
 
-  CheckBox Check1{true};  ///< expansions
-  CheckBox Check2;        ///< 2x4 spar
-  CheckBox Check3;        ///< HPGL
-  CheckBox Check4;        ///< DXF
-  CheckBox Check5;        ///< text
-  CheckBox Check6;        ///< half frames
-  CheckBox Check7;        ///< stem
-  CheckBox Check8;        ///< soles
-  CheckBox Check9;        ///< deck
-  CheckBox Check10;       ///< keel
+  CheckBox Check1{"Expansions", true};
+  CheckBox Check2{"2x4 Spar"};
+  CheckBox Check3{"HPGL"};
+  CheckBox Check4{"DXF"};
+  CheckBox Check5{"Text"};
+  CheckBox Check6{"Half Frames"};
+  CheckBox Check7{"Stem (BH 0)"};
+  CheckBox Check8{"Soles"};
+  CheckBox Check9{"Deck"};
+  CheckBox Check10{"Keel"};
 
-  CommandButton Command1;  ///< save
+  CommandButton Command1{"Save"};
 
-  Property<bool> Visible;
   /// Shows the window and returns when it is hidden again.
   Event<> ShowModal;
 };

@@ -3,7 +3,9 @@
 
 #include "controls/controls.h"
 
-struct OpenWindow {
+struct OpenWindow : Window {
+  OpenWindow() : Window("Open") {}
+
   Label Label4;   ///< designer of the open hull
   Label Label11;  ///< its info text
 
@@ -15,8 +17,9 @@ struct OpenWindow {
   TextBox Text7;   ///< head angle
   TextBox Text9;   ///< foot length
 
-  OptionButton Option1{&Option2};  ///< deck step
-  OptionButton Option2{&Option1};  ///< keel step
+  OptionButton Option1{"Deck Step", {&Option2}};
+  OptionButton Option2{"Keel Step", {&Option1}};
+  CheckBox Rig{"OK"};  ///< shows the rig
 
   TextBox Text11;  ///< ballast weight
   TextBox Text12;  ///< ballast station

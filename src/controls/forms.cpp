@@ -6,6 +6,7 @@ MainWindow Form1;
 NestingWindow Form2;
 SaveWindow Form3;
 OpenWindow Form4;
+OffsetsWindow Form5;
 
 namespace {
 
@@ -22,4 +23,5 @@ void ResetForms() {
   Reset(Form2);
   Reset(Form3);
   Reset(Form4);
+  Reset(Form5);
 }

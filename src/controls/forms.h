@@ -5,6 +5,7 @@
 #include "controls/form2.h"
 #include "controls/form3.h"
 #include "controls/form4.h"
+#include "controls/form5.h"
 
 /// Puts every control of every window back to its state at the start of the program, with empty
 /// slots.

@@ -38,5 +38,5 @@ void Text3_Change() {
   }
   NumChines = n;
   Form1.Refresh();
-  Form1.RefreshPicture2();
+  Form1.Picture2.Refresh();
 }

@@ -106,6 +106,6 @@ void Contours_Click() {
   Form1.Sections.Checked = false;
   Form1.Profile.Checked = false;
   Form1.Plan.Checked = true;
-  Form1.RefreshPicture2();
+  Form1.Picture2.Refresh();
   ForEachPlane(WaterlineY, DrawContour);
 }

@@ -26,6 +26,9 @@ class DrawSurface {
   virtual void Line(double /*x1*/, double /*y1*/, double /*x2*/, double /*y2*/, int /*colour*/) {}
   /// A segment from the current point.
   virtual void LineTo(double /*x2*/, double /*y2*/, int /*colour*/) {}
+  /// The outline of a rectangle with these corners.
+  virtual void Box(double /*x1*/, double /*y1*/, double /*x2*/, double /*y2*/, int /*colour*/) {}
+  virtual void FilledBox(double /*x1*/, double /*y1*/, double /*x2*/, double /*y2*/, int /*colour*/) {}
   /// One pixel, which becomes the current point.
   virtual void PSet(double /*x*/, double /*y*/, int /*colour*/) {}
   /// An outline whose radius is in units of the x axis; from one angle to another, anticlockwise,
@@ -37,6 +40,13 @@ class DrawSurface {
   /// Pen width in pixels; whoever changes it sets it back to 1.
   virtual void DrawWidth(int /*pixels*/) {}
 
+  /// How a call meets what is there. Under exclusive-or the same call twice leaves the picture as it
+  /// was; whoever changes the mode sets it back to plain copying.
+  enum class Mode { ExclusiveOr = 7, Copy = 13 };
+  virtual void DrawMode(Mode /*mode*/) {}
+
+  /// The extent of a printed text along the x axis, in units of the scale.
+  virtual double TextWidth(std::string_view /*text*/) const { return 0; }
   /// Outer size in the form's units, used only as a ratio.
   virtual double Width() const { return 0; }
   virtual double Height() const { return 0; }
