@@ -3,8 +3,10 @@
 #include "base/files.h"
 #include "controls/dialogs.h"
 #include "controls/forms.h"
+#include "hull/figures.h"
 #include "hull/hull_model.h"
 #include "hull/plot_scale.h"
+#include "hull/rig.h"
 #include "hydro/heel.h"
 #include "hydro/hydrostatics.h"
 #include "hydro/waterline_search.h"
@@ -16,6 +18,8 @@ void StartProgram() {
   BindHandlers();
   SetDataFolder(ShippedDataFolder());
   SetDefaultHull();
+  ResetFigures();
+  ResetRig();
   SetDefaultHydrostatics();
   ResetHeel();
   ResetPitchWarning();
