@@ -17,8 +17,7 @@ namespace {
 
 void DeleteOldOutput() {
   DeleteFiles("chine", ".tri");
-  DeleteFiles("", ".uc");
-  DeleteFile("handplot.txt");
+  dummy21_Click();
 }
 
 /// The order is binding: leveling rewrites what the expansion wrote, and the table and both exports
@@ -46,6 +45,11 @@ void CreatePatterns() {
 }
 
 }  // namespace
+
+void dummy21_Click() {
+  DeleteFiles("", ".uc");
+  DeleteFile("handplot.txt");
+}
 
 void SaveAndCreate() {
   // The stages read what stages before wrote, and some files are written twice. Each goes to the

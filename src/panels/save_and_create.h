@@ -7,3 +7,7 @@
 /// working folder. No stage stops the
 /// chain; progress is told in panel 1.
 void SaveAndCreate();
+
+/// The menu item "Clear old patterns": deletes the pattern files and the hand plotting table of the
+/// working folder at once, with no question. Triangle files and exports stay.
+void dummy21_Click();

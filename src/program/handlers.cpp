@@ -1,17 +1,14 @@
 #include "program/handlers.h"
 
-#include <utility>
-
 #include "controls/forms.h"
 #include "hull/chine_count.h"
 #include "hull/chine_spline.h"
-#include "hull/rescaling.h"
-#include "hydro/heel.h"
 #include "hydro/results.h"
 #include "hydro/waterline.h"
-#include "hydro/waterline_search.h"
 #include "panels/save_and_create.h"
 #include "panels/save_dialog.h"
+#include "program/menus.h"
+#include "program/session.h"
 
 namespace {
 
@@ -21,26 +18,8 @@ void BindForm1() {
   Form1.VScroll1.Change = VScroll1_Change;
   Form1.HScroll1.Change = HScroll1_Change;
   Form1.Combo1.Click = Combo1_Click;
-}
-
-void BindMenus() {
-  const std::pair<MenuItem*, void (*)()> items[] = {
-      {&Form1.Dummy4, Dummy4_Click},
-      {&Form1.displacement, displacement_Click},
-      {&Form1.EnterWaterline, EnterWaterline_Click},
-      {&Form1.Contours, Contours_Click},
-      {&Form1.EnterPitch, EnterPitch_Click},
-      {&Form1.EnterHeel, EnterHeel_Click},
-      {&Form1.Freshwater, Freshwater_Click},
-      {&Form1.Seawater, Seawater_Click},
-      {&Form1.dummy12, dummy12_Click},
-      {&Form1.dummy18, dummy18_Click},
-      {&Form1.dummy19, dummy19_Click},
-      {&Form1.dummy88, dummy88_Click},
-  };
-  for (const auto& [item, handler] : items) {
-    item->Click = handler;
-  }
+  Form1.Timer1 = Timer1_Timer;
+  Form1.QueryUnload = Form_QueryUnload;
 }
 
 void BindForm3() {

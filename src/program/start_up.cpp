@@ -12,22 +12,27 @@
 #include "hydro/waterline_search.h"
 #include "program/handlers.h"
 
-void StartProgram() {
+void BindProgram() {
   ResetForms();
   ResetDialogs();
-  BindHandlers();
   SetDataFolder(ShippedDataFolder());
+  BindHandlers();
+}
+
+void SetStartState() {
   SetDefaultHull();
   ResetFigures();
   ResetRig();
   SetDefaultHydrostatics();
   ResetHeel();
   ResetPitchWarning();
-  Form1.AutoSpline.Checked = true;
-  Form1.Freshwater.Checked = true;
-  Form1.EnterHeel.Enabled = false;
-  Form1.Text3.Text = "4";
   PlotXScale = PlotYScale = 500;
+  Form1.Text3.Text = "4";
+}
+
+void StartProgram() {
+  BindProgram();
+  SetStartState();
   ReadPlotScale();
   Form1.Refresh();
 }
