@@ -12,7 +12,15 @@
 #include "views/draw_surface.h"
 
 /// The codes of the keys that handlers answer to.
-enum KeyCode { NoKey = 0, EnterKey = 13, LeftKey = 37, UpKey = 38, RightKey = 39, DownKey = 40 };
+enum KeyCode {
+  NoKey = 0,
+  EnterKey = 13,
+  EscapeKey = 27,
+  LeftKey = 37,
+  UpKey = 38,
+  RightKey = 39,
+  DownKey = 40
+};
 
 struct Label {
   explicit Label(std::string caption = {}) : Caption(std::move(caption)) {}

@@ -45,6 +45,10 @@ class DrawSurface {
   enum class Mode { ExclusiveOr = 7, Copy = 13 };
   virtual void DrawMode(Mode /*mode*/) {}
 
+  /// Asks for smoothed lines, where the surface has them; never under exclusive-or. Whoever asks
+  /// sets it back.
+  virtual void Smooth(bool /*on*/) {}
+
   /// The extent of a printed text along the x axis, in units of the scale.
   virtual double TextWidth(std::string_view /*text*/) const { return 0; }
   /// Outer size in the form's units, used only as a ratio.
