@@ -29,6 +29,32 @@ class KeyWatch : public QObject {
   TextBox& control_;
 };
 
+/// Watches for Enter in a list. The list's own signal for it would also come with a double click,
+/// whose two clicks have been told already.
+class EnterWatch : public QObject {
+ public:
+  EnterWatch(QListWidget* list, std::function<void(const QListWidgetItem*)> choose)
+      : QObject(list), list_(list), choose_(std::move(choose)) {
+    list->installEventFilter(this);
+  }
+
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::KeyPress) {
+      const int key = static_cast<QKeyEvent*>(event)->key();
+      const QListWidgetItem* item = list_->currentItem();
+      if ((key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space) && item != nullptr) {
+        choose_(item);
+        return true;
+      }
+    }
+    return false;
+  }
+
+ private:
+  QListWidget* list_;
+  std::function<void(const QListWidgetItem*)> choose_;
+};
+
 void ShowText(const TextBox& control, QLineEdit* widget) {
   const QString text = Shown(control.Text);
   if (widget->text() != text) {
@@ -137,9 +163,12 @@ void Face(ListBox& control, QListWidget* widget) {
   };
   control.Show = show;
   show();
-  const auto choose = [&control, widget](QListWidgetItem* item) { control.SetListIndex(widget->row(item)); };
-  QObject::connect(widget, &QListWidget::itemClicked, widget, choose);
-  QObject::connect(widget, &QListWidget::itemActivated, widget, choose);
+  OnChoice(widget, [&control, widget](const QListWidgetItem* item) { control.SetListIndex(widget->row(item)); });
+}
+
+void OnChoice(QListWidget* list, std::function<void(const QListWidgetItem*)> choose) {
+  QObject::connect(list, &QListWidget::itemClicked, list, choose);
+  new EnterWatch(list, std::move(choose));
 }
 
 void Face(ScrollBar& control, QSlider* widget) {

@@ -10,6 +10,7 @@
 #include <QListWidget>
 #include <QSlider>
 #include <QToolButton>
+#include <functional>
 
 #include "controls/controls.h"
 
@@ -34,6 +35,9 @@ class SpinButtons : public QWidget {
  private:
   QToolButton* AddArrow(Qt::ArrowType arrow, const QString& name, int y);
 };
+
+/// Each click on a row, and Enter or the space bar on the current one.
+void OnChoice(QListWidget* list, std::function<void(const QListWidgetItem*)> choose);
 
 /// Keeps the widget's place while the control hides it, so that nothing jumps when it comes back.
 void FollowVisible(Property<bool>& visible, QWidget* widget);

@@ -1,10 +1,8 @@
 #include "ui/main_window.h"
 
 #include <QBoxLayout>
-#include <QFrame>
 #include <QGuiApplication>
 #include <QMenuBar>
-#include <QPushButton>
 #include <QScreen>
 #include <QStatusBar>
 #include <QTimer>
@@ -12,6 +10,7 @@
 #include "controls/forms.h"
 #include "program/menus.h"
 #include "ui/control_faces.h"
+#include "ui/new_widgets.h"
 #include "ui/picture_surface.h"
 #include "ui/window_face.h"
 
@@ -19,53 +18,6 @@ namespace {
 
 constexpr QSize ThumbnailSize(136, 100);
 constexpr QSize BestSize(1180, 800);
-constexpr int Gap = 6;
-
-QLabel* NewLabel(Label& control, QWidget* neighbour) {
-  auto* label = new QLabel;
-  Face(control, label);
-  label->setBuddy(neighbour);
-  return label;
-}
-
-QLineEdit* NewBox(TextBox& control, int width, const QString& name, const QString& tool_tip) {
-  auto* box = new QLineEdit;
-  box->setFixedWidth(width);
-  Face(control, box);
-  Describe(box, name, tool_tip);
-  return box;
-}
-
-QPushButton* NewButton(CommandButton& control, int width, const QString& name, const QString& tool_tip) {
-  auto* button = new QPushButton;
-  button->setFixedWidth(width);
-  button->setAutoDefault(false);
-  Face(control, button);
-  Describe(button, name, tool_tip);
-  return button;
-}
-
-QFrame* Framed(QWidget* inside) {
-  auto* frame = new QFrame;
-  frame->setFrameStyle(QFrame::Box | QFrame::Plain);
-  frame->setLineWidth(2);
-  auto* layout = new QHBoxLayout(frame);
-  layout->setContentsMargins(0, 0, 0, 0);
-  layout->addWidget(inside);
-  return frame;
-}
-
-void ColourFrame(QFrame* frame, QPalette::ColorRole role) {
-  QPalette colours = frame->parentWidget()->palette();
-  colours.setColor(QPalette::WindowText, colours.color(role));
-  frame->setPalette(colours);
-}
-
-QHBoxLayout* NewRow() {
-  auto* row = new QHBoxLayout;
-  row->setSpacing(Gap);
-  return row;
-}
 
 }  // namespace
 
@@ -195,7 +147,7 @@ void MainWindowWidget::AddBulkheads(QBoxLayout* upper, QBoxLayout* lower) {
   for (std::size_t k = 0; k < 5; ++k) {
     QBoxLayout* row = k < 4 ? upper : lower;
     const QString tool_tip = names[k] + " in inches; Enter moves the bulkhead of all chines";
-    QLineEdit* box = NewBox(Form1.Text1[k], k == 0 ? 40 : 58, names[k], tool_tip);
+    QLineEdit* box = NewBox(Form1.Text1[k], names[k], k == 0 ? 40 : 58, tool_tip);
     if (labels[k] != nullptr) {
       row->addWidget(NewLabel(*labels[k], box));
     }
@@ -204,17 +156,17 @@ void MainWindowWidget::AddBulkheads(QBoxLayout* upper, QBoxLayout* lower) {
 }
 
 void MainWindowWidget::AddSpinControls(QBoxLayout* row) {
-  QLineEdit* chines = NewBox(Form1.Text3, 34, "Number of chines", "Number of chines, 2 to 30");
+  QLineEdit* chines = NewBox(Form1.Text3, "Number of chines", 34, "Number of chines, 2 to 30");
   row->addSpacing(Gap);
   row->addWidget(NewLabel(Form1.Label5, chines));
   row->addWidget(chines);
   row->addWidget(new SpinButtons(Form1.VScroll1, "Number of chines", nullptr));
   row->addSpacing(Gap);
-  row->addWidget(NewButton(Form1.Command1, 30, "Spin in X and Y", "Spin view (or use keyboard)"));
-  row->addWidget(NewButton(Form1.Command5, 30, "Spin in X and Z", "Spin view (left and right arrow)"));
-  row->addWidget(NewButton(Form1.Command6, 30, "Spin in Y and Z", "Spin view (up and down arrow)"));
+  row->addWidget(NewButton(Form1.Command1, "Spin in X and Y", 30, "Spin view (or use keyboard)"));
+  row->addWidget(NewButton(Form1.Command5, "Spin in X and Z", 30, "Spin view (left and right arrow)"));
+  row->addWidget(NewButton(Form1.Command6, "Spin in Y and Z", 30, "Spin view (up and down arrow)"));
   row->addSpacing(Gap);
-  row->addWidget(NewButton(Form1.Command2, 58, "Write a VRML model", "Write the hull as a VRML model"));
+  row->addWidget(NewButton(Form1.Command2, "Write a VRML model", 58, "Write the hull as a VRML model"));
 }
 
 void MainWindowWidget::AddWaterAndResults(QBoxLayout* row) {
