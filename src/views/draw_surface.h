@@ -19,8 +19,8 @@ class DrawSurface {
 
   /// Clears to the background; the current point becomes the top left.
   virtual void Cls() {}
-  /// x1 is the left edge, x2 the right, y1 the top, y2 the bottom. An empty range is refused and
-  /// the earlier scale stays.
+  /// x1 is the left edge, x2 the right, y1 the top, y2 the bottom. An empty range, and one
+  /// with an end that has no value, is refused: the earlier scale stays.
   virtual void Scale(double /*x1*/, double /*y1*/, double /*x2*/, double /*y2*/) {}
   /// One straight segment; its end becomes the current point.
   virtual void Line(double /*x1*/, double /*y1*/, double /*x2*/, double /*y2*/, int /*colour*/) {}
