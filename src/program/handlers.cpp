@@ -1,6 +1,7 @@
 #include "program/handlers.h"
 
 #include "controls/forms.h"
+#include "hull/bulkhead_boxes.h"
 #include "hull/chine_count.h"
 #include "hull/chine_spline.h"
 #include "hydro/results.h"
@@ -18,6 +19,9 @@ void BindForm1() {
   Form1.VScroll1.Change = VScroll1_Change;
   Form1.HScroll1.Change = HScroll1_Change;
   Form1.Combo1.Click = Combo1_Click;
+  for (std::size_t i = 0; i < Form1.Text1.size(); ++i) {
+    Form1.Text1[i].KeyPress = [i](int key) { Text1_KeyPress(static_cast<int>(i), key); };
+  }
   Form1.Timer1 = Timer1_Timer;
   Form1.QueryUnload = Form_QueryUnload;
 }

@@ -1,6 +1,7 @@
 #include "program/menus.h"
 
 #include "controls/forms.h"
+#include "hull/bulkhead_boxes.h"
 #include "hull/rescaling.h"
 #include "hydro/heel.h"
 #include "hydro/waterline.h"
@@ -23,8 +24,8 @@ const std::vector<MenuRow>& Form1Menus() {
       {0, "&Data"},
       {1, "&Offsets Table", &Form1.dummy8, nullptr},
       {1, "-"},
-      {1, "&Auto-Spline chines", &Form1.AutoSpline, nullptr, Checked},
-      {1, "&Lock Bulkheads in 'Z'", &Form1.LockBulkheads, nullptr, Unchecked},
+      {1, "&Auto-Spline chines", &Form1.AutoSpline, AutoSpline_Click, Checked},
+      {1, "&Lock Bulkheads in 'Z'", &Form1.LockBulkheads, LockBulkheads_Click, Unchecked},
       {0, "&Calculations"},
       {1, "&Displacement", &Form1.displacement, displacement_Click},
       {1, "&Waterline", &Form1.EnterWaterline, EnterWaterline_Click, Unchecked},
