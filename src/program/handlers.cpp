@@ -3,18 +3,20 @@
 #include "controls/forms.h"
 #include "hull/bulkhead_boxes.h"
 #include "hull/chine_count.h"
-#include "hull/chine_spline.h"
 #include "hydro/results.h"
 #include "hydro/waterline.h"
 #include "panels/save_and_create.h"
 #include "panels/save_dialog.h"
 #include "program/menus.h"
 #include "program/session.h"
+#include "views/repaint.h"
+#include "views/spin_view.h"
+#include "views/view_choice.h"
 
 namespace {
 
 void BindForm1() {
-  Form1.Refresh = RecomputeHull;
+  Form1.Refresh = Form_Paint;
   Form1.Text3.Change = Text3_Change;
   Form1.VScroll1.Change = VScroll1_Change;
   Form1.HScroll1.Change = HScroll1_Change;
@@ -24,6 +26,18 @@ void BindForm1() {
   }
   Form1.Timer1 = Timer1_Timer;
   Form1.QueryUnload = Form_QueryUnload;
+}
+
+void BindViews() {
+  Form1.Picture2.Refresh = Picture2_Paint;
+  for (std::size_t i = 0; i < Form1.Picture1.size(); ++i) {
+    Form1.Picture1[i].Click = [i] { Picture1_Click(static_cast<int>(i)); };
+  }
+  Form1.Picture3.Click = Picture3_Click;
+  Form1.Command1.Click = Command1_Click;
+  Form1.Command5.Click = Command5_Click;
+  Form1.Command6.Click = Command6_Click;
+  Form1.KeyDown = Form_KeyDown;
 }
 
 void BindForm3() {
@@ -43,6 +57,7 @@ void BindForm3() {
 
 void BindHandlers() {
   BindForm1();
+  BindViews();
   BindMenus();
   BindForm3();
 }

@@ -9,6 +9,7 @@
 #include "panels/save_and_create.h"
 #include "panels/save_dialog.h"
 #include "program/session.h"
+#include "views/view_choice.h"
 
 const std::vector<MenuRow>& Form1Menus() {
   using enum MenuRow::Start;
@@ -44,11 +45,11 @@ const std::vector<MenuRow>& Form1Menus() {
       {2, "Maximum &Height Only", &Form1.dummy19, dummy19_Click},
       {2, "Maximum &Length Only", &Form1.dummy88, dummy88_Click},
       {0, "&View"},
-      {1, "&Sections", &Form1.Sections, nullptr, Unchecked},
-      {1, "&Profile", &Form1.Profile, nullptr, Unchecked},
-      {1, "P&lan", &Form1.Plan, nullptr, Unchecked},
+      {1, "&Sections", &Form1.Sections, Sections_Click, Unchecked},
+      {1, "&Profile", &Form1.Profile, Profile_Click, Unchecked},
+      {1, "P&lan", &Form1.Plan, Plan_Click, Unchecked},
       {1, "-"},
-      {1, "&True View", &Form1.TrueView, nullptr, Checked},
+      {1, "&True View", &Form1.TrueView, TrueView_Click, Checked},
       {0, "&Patterns"},
       {1, "&Nesting", &Form1.dummy15, nullptr},
   };

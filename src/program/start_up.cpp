@@ -11,6 +11,7 @@
 #include "hydro/hydrostatics.h"
 #include "hydro/waterline_search.h"
 #include "program/handlers.h"
+#include "views/repaint.h"
 
 void BindProgram() {
   ResetForms();
@@ -26,6 +27,7 @@ void SetStartState() {
   SetDefaultHydrostatics();
   ResetHeel();
   ResetPitchWarning();
+  ResetViews();
   PlotXScale = PlotYScale = 500;
   Form1.Text3.Text = "4";
 }
