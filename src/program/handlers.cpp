@@ -9,6 +9,7 @@
 #include "panels/save_dialog.h"
 #include "program/menus.h"
 #include "program/session.h"
+#include "views/node_editing.h"
 #include "views/repaint.h"
 #include "views/spin_view.h"
 #include "views/view_choice.h"
@@ -30,6 +31,10 @@ void BindForm1() {
 
 void BindViews() {
   Form1.Picture2.Refresh = Picture2_Paint;
+  Form1.Picture2.MouseDown = Picture2_MouseDown;
+  Form1.Picture2.MouseMove = Picture2_MouseMove;
+  Form1.Picture2.MouseUp = Picture2_MouseUp;
+  Form1.Picture2.DblClick = Picture2_DblClick;
   for (std::size_t i = 0; i < Form1.Picture1.size(); ++i) {
     Form1.Picture1[i].Click = [i] { Picture1_Click(static_cast<int>(i)); };
   }
