@@ -166,6 +166,7 @@ void DrawSpinView() {
   for (Side* side : {&a, &b}) {
     Move(*side, corner);
   }
+  Form1.Picture2->Smooth(true);
   for (int c = 1; c <= NumChines; ++c) {
     DrawChine(a, c);
     DrawChine(b, c);
@@ -183,6 +184,7 @@ void DrawSpinView() {
     // Station 0 holds zeros: a dot where rungs of the stem would be. It is kept as designed.
     DrawAcross(a, b, 0, c, LightGrey);
   }
+  Form1.Picture2->Smooth(false);
 }
 
 void Command1_Click() {
