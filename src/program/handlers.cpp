@@ -5,6 +5,7 @@
 #include "controls/forms.h"
 #include "hull/chine_count.h"
 #include "hull/chine_spline.h"
+#include "hull/offsets_table.h"
 #include "hull/rescaling.h"
 #include "hydro/heel.h"
 #include "hydro/results.h"
@@ -26,6 +27,7 @@ void BindForm1() {
 void BindMenus() {
   const std::pair<MenuItem*, void (*)()> items[] = {
       {&Form1.Dummy4, Dummy4_Click},
+      {&Form1.dummy8, dummy8_Click},
       {&Form1.displacement, displacement_Click},
       {&Form1.EnterWaterline, EnterWaterline_Click},
       {&Form1.Contours, Contours_Click},
@@ -56,10 +58,19 @@ void BindForm3() {
   Form3.Command1.Click = SaveAndCreate;
 }
 
+void BindForm5() {
+  Form5.Unload = Form5_Unload;
+  Form5.Grid1.Click = Form5_Grid1_Click;
+  Form5.Text1.Change = Form5_Text1_Change;
+  Form5.Text1.KeyPress = Form5_Text1_KeyPress;
+  Form5.Text1.LostFocus = Form5_Text1_LostFocus;
+}
+
 }  // namespace
 
 void BindHandlers() {
   BindForm1();
   BindMenus();
   BindForm3();
+  BindForm5();
 }

@@ -5,6 +5,7 @@
 #include "controls/forms.h"
 #include "hull/figures.h"
 #include "hull/hull_model.h"
+#include "hull/offsets_table.h"
 #include "hull/plot_scale.h"
 #include "hull/rig.h"
 #include "hydro/heel.h"
@@ -23,6 +24,7 @@ void StartProgram() {
   SetDefaultHydrostatics();
   ResetHeel();
   ResetPitchWarning();
+  OffsetsNotesShown = false;
   Form1.AutoSpline.Checked = true;
   Form1.Freshwater.Checked = true;
   Form1.EnterHeel.Enabled = false;
