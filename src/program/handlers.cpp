@@ -5,9 +5,12 @@
 #include "controls/forms.h"
 #include "hull/chine_count.h"
 #include "hull/chine_spline.h"
+#include "hull/figures.h"
 #include "hull/offsets_table.h"
+#include "hull/open_dialog.h"
 #include "hull/rescaling.h"
 #include "hydro/heel.h"
+#include "hydro/open_command.h"
 #include "hydro/results.h"
 #include "hydro/waterline.h"
 #include "hydro/waterline_search.h"
@@ -26,6 +29,7 @@ void BindForm1() {
 
 void BindMenus() {
   const std::pair<MenuItem*, void (*)()> items[] = {
+      {&Form1.dummy2, dummy2_Click},
       {&Form1.Dummy4, Dummy4_Click},
       {&Form1.dummy8, dummy8_Click},
       {&Form1.displacement, displacement_Click},
@@ -58,6 +62,40 @@ void BindForm3() {
   Form3.Command1.Click = SaveAndCreate;
 }
 
+void BindFigures() {
+  for (std::size_t i = 0; i < Form4.Picture2.size(); ++i) {
+    Form4.Picture2[i].Click = [i] { Form4_Picture2_Click(static_cast<int>(i)); };
+  }
+  Form4.Text3.Change = Form4_Text3_Change;
+  Form4.VScroll2.Change = Form4_VScroll2_Change;
+  Form4.Text8.Change = Form4_Text8_Change;
+  Form4.Command5.Click = Form4_Command5_Click;
+  Form4.Command6.Click = Form4_Command6_Click;
+  Form4.Command7.Click = Form4_Command7_Click;
+}
+
+void BindRigAndBallast() {
+  for (const NumberBox& box : RigNumbers()) {
+    box.box->Change = [box] { RigBox_Change(box); };
+  }
+  for (const NumberBox& box : BallastNumbers()) {
+    box.box->Change = [box] { BallastBox_Change(box); };
+  }
+  for (Event<>* click : {&Form4.Rig.Click, &Form4.Option1.Click, &Form4.Option2.Click}) {
+    *click = [] { Form1.Picture2.Refresh(); };
+  }
+}
+
+void BindForm4() {
+  Form4.QueryUnload = Form4_QueryUnload;
+  Form4.File1.Click = Form4_File1_Click;
+  Form4.Dir1.Change = Form4_Dir1_Change;
+  Form4.Drive1.Change = Form4_Drive1_Change;
+  Form4.Command1.Click = Form4_Command1_Click;
+  BindFigures();
+  BindRigAndBallast();
+}
+
 void BindForm5() {
   Form5.Unload = Form5_Unload;
   Form5.Grid1.Click = Form5_Grid1_Click;
@@ -72,5 +110,6 @@ void BindHandlers() {
   BindForm1();
   BindMenus();
   BindForm3();
+  BindForm4();
   BindForm5();
 }

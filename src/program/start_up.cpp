@@ -1,5 +1,7 @@
 #include "program/start_up.h"
 
+#include <string>
+
 #include "base/files.h"
 #include "controls/dialogs.h"
 #include "controls/forms.h"
@@ -13,12 +15,26 @@
 #include "hydro/waterline_search.h"
 #include "program/handlers.h"
 
+namespace {
+
+/// The lists of files start in the working folder.
+void ShowWorkingFolder() {
+  const std::string root = WorkingFolder().root_path().string();
+  Form3.Drive1.Drive = root;
+  Form4.Drive1.Drive = root;
+  Form3.Dir1.Path = WorkingFolder().string();
+  Form4.Dir1.Path = WorkingFolder().string();
+}
+
+}  // namespace
+
 void StartProgram() {
   ResetForms();
   ResetDialogs();
   BindHandlers();
   SetDataFolder(ShippedDataFolder());
   SetDefaultHull();
+  ShowWorkingFolder();
   ResetFigures();
   ResetRig();
   SetDefaultHydrostatics();
