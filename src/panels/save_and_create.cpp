@@ -17,8 +17,7 @@ namespace {
 
 void DeleteOldOutput() {
   DeleteFiles("chine", ".tri");
-  DeleteFiles("", ".uc");
-  DeleteFile("handplot.txt");
+  dummy21_Click();
 }
 
 /// The order is binding: leveling rewrites what the expansion wrote, and the table and both exports
@@ -62,4 +61,9 @@ void SaveAndCreate() {
   Form1.StatusBar1.Panels[1] = "Working on..." + HullFileName;
   Form1.Refresh();
   Form3.File1.Refresh();
+}
+
+void dummy21_Click() {
+  DeleteFiles("", ".uc");
+  DeleteFile("handplot.txt");
 }

@@ -7,3 +7,6 @@
 /// working folder. No stage stops the
 /// chain; progress is told in panel 1.
 void SaveAndCreate();
+
+/// Deletes all patterns and the hand plotting table of the working folder, without a question.
+void dummy21_Click();

@@ -31,6 +31,7 @@ void BindMenus() {
   const std::pair<MenuItem*, void (*)()> items[] = {
       {&Form1.dummy2, dummy2_Click},
       {&Form1.Dummy4, Dummy4_Click},
+      {&Form1.dummy21, dummy21_Click},
       {&Form1.dummy8, dummy8_Click},
       {&Form1.displacement, displacement_Click},
       {&Form1.EnterWaterline, EnterWaterline_Click},
@@ -50,6 +51,13 @@ void BindMenus() {
 }
 
 void BindForm3() {
+  Form3.Unload = Form3_Unload;
+  Form3.KeyDown = Form3_KeyDown;
+  Form3.GotFocus = Form3_GotFocus;
+  Form3.File1.Click = Form3_File1_Click;
+  Form3.Dir1.Change = Form3_Dir1_Change;
+  Form3.Drive1.Change = Form3_Drive1_Change;
+  Form3.Text1.KeyPress = Form3_Text1_KeyPress;
   Form3.Text1.Change = Form3_Text1_Change;
   Form3.Text2.Change = Form3_Text2_Change;
   Form3.Text3.Change = Form3_Text3_Change;
@@ -60,6 +68,8 @@ void BindForm3() {
     Form3.FrameText[i].Change = [i] { FrameText_Change(static_cast<int>(i)); };
   }
   Form3.Command1.Click = SaveAndCreate;
+  Form3.Command2.Click = Form3_Command2_Click;
+  Form3.Command3.Click = Form3_Command3_Click;
 }
 
 void BindFigures() {
