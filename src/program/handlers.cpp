@@ -16,6 +16,7 @@
 #include "hydro/waterline_search.h"
 #include "panels/save_and_create.h"
 #include "panels/save_dialog.h"
+#include "views/vrml.h"
 
 namespace {
 
@@ -25,6 +26,7 @@ void BindForm1() {
   Form1.VScroll1.Change = VScroll1_Change;
   Form1.HScroll1.Change = HScroll1_Change;
   Form1.Combo1.Click = Combo1_Click;
+  Form1.Command2.Click = Command2_Click;
 }
 
 void BindMenus() {
