@@ -377,6 +377,12 @@ std::string FixedText(double value, int decimals) {
   return out;
 }
 
+std::string FixedTextAtMost(double value, int decimals) {
+  std::string text = FixedText(value, decimals);
+  text.resize(text.find_last_not_of('0') + 1);
+  return text;
+}
+
 double RoundHalfEven(double value) {
   return std::nearbyint(value);
 }

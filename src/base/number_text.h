@@ -44,6 +44,9 @@ void AppendWhole(std::string& out, double value);
 std::string FixedText(double value, int decimals);
 void AppendFixedText(std::string& out, double value, int decimals);
 
+/// The masks "0.#", "0.##": the same, but trailing zeros are left out and the point stays: "5.", "0.75".
+std::string FixedTextAtMost(double value, int decimals);
+
 /// Nearest whole number, halves to the even one.
 double RoundHalfEven(double value);
 

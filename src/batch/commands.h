@@ -50,3 +50,11 @@ struct HydrostaticsArguments {
 
 /// Prints the hydrostatics at one waterline or at several, upright or at one heel or several.
 int RunHydrostatics(const HydrostaticsArguments& arguments);
+
+struct VrmlArguments {
+  std::string hull;  ///< empty for the built-in hull
+  std::string into = ".";
+};
+
+/// Writes the hull as a solid for viewers, as the button "VRML" does.
+int RunVrml(const VrmlArguments& arguments);

@@ -191,6 +191,20 @@ void AddHydrostatics(CLI::App& app, HydrostaticsArguments& arguments, std::funct
   });
 }
 
+void AddVrml(CLI::App& app, VrmlArguments& arguments, std::function<int()>& run) {
+  CLI::App* const command = app.add_subcommand("vrml", "the hull as a solid for viewers of VRML 1.0");
+  command->formatter(std::make_shared<SynopsisFormatter>("  tarve-batch vrml [HULL] [--into DIR]"));
+  command->add_option("hull", arguments.hull)->check(CheckNotEmpty);
+  command
+      ->add_option("--into", arguments.into,
+                   "Folder for the file, named like the hull, and its copy default.wrl; made if missing, the "
+                   "current one otherwise")
+      ->type_name("DIR")
+      ->check(CheckNotEmpty);
+  command->footer(std::string(HullHelp) + "\nEXAMPLE\n  tarve-batch vrml dory.tvh --into dory\n");
+  command->callback([&] { run = [&arguments] { return RunVrml(arguments); }; });
+}
+
 int Run(int argc, char** argv) {
   CLI::App app("work on hull files without a window");
   app.formatter(std::make_shared<SynopsisFormatter>(
@@ -202,10 +216,12 @@ int Run(int argc, char** argv) {
   PatternsArguments patterns;
   PointsArguments points;
   HydrostaticsArguments hydrostatics;
+  VrmlArguments vrml;
   std::function<int()> run;
   AddPatterns(app, patterns, run);
   AddPoints(app, points, run);
   AddHydrostatics(app, hydrostatics, run);
+  AddVrml(app, vrml, run);
   try {
     app.parse(argc, argv);
   } catch (const CLI::RequiredError&) {

@@ -81,6 +81,7 @@ void PressSave(const PatternsArguments& arguments, const fs::path& export_folder
   if (!arguments.frames.empty()) {
     ReplaceFrames(arguments.frames);
   }
+  Form3.Loaded = true;  // the settings of a window do not count here
   Dummy4_Click();
   HullFileName = own_name;
   Form3.Text6.Text = export_folder.string();

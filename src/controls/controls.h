@@ -73,6 +73,8 @@ struct CommandButton {
   explicit CommandButton(std::string caption = {}) : Caption(std::move(caption)) {}
   Property<std::string> Caption;
   Event<> Click;
+  /// The face's slot: the keyboard goes here.
+  Event<> SetFocus;
 };
 
 struct MenuItem {
@@ -163,14 +165,6 @@ class ListBox {
   int list_index_ = -1;
 };
 
-/// A list of the files of one folder; what the user's click leaves chosen.
-struct FileListBox {
-  Event<> Click;
-  Property<std::string> FileName;
-  /// Reads the folder anew.
-  Event<> Refresh;
-};
-
 /// A picture with the mouse over it. Handlers draw on its surface by `->` and `*`; a face puts its
 /// own surface in place of the empty one. The mouse comes in the surface's coordinates, with the
 /// button's number: 1 left, 2 right, 0 none.
@@ -205,6 +199,8 @@ struct Window {
 
   Property<std::string> Caption;
   Property<bool> Visible;
+  /// Whether the window holds its contents: from its first use until its Unload.
+  bool Loaded = false;
   /// The face's slot: moves the window on the screen.
   Event<Place> Move;
   /// The face's slot: shows the hourglass while a handler works.

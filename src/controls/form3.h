@@ -4,19 +4,43 @@
 #include <array>
 
 #include "controls/controls.h"
+#include "controls/file_lists.h"
 
 struct SaveWindow : Window {
   SaveWindow() : Window("Save and Create Patterns") {}
 
-  TextBox Text1{"default.tvh"};  ///< file name
-  FileListBox File1;
+  Label Label1{"File Name:"};
+  TextBox Text1{"default.tvh"};
+  FileListBox File1{"*.tvh"};
+  Label Label2{"Directories:"};
+  Label Label3;  ///< the open folder
+  DirListBox Dir1;
+  Label Label4{"Drives:"};
+  DriveListBox Drive1;
 
-  TextBox Text2;  ///< designer
-  TextBox Text3;  ///< hull info
-  TextBox Text4;  ///< contact
+  Label Frame1{"Information"};  ///< around the four info texts
+  Label Label16{"Designer"};
+  TextBox Text2;
+  Label Label17{"Hull Info"};
+  TextBox Text3;
+  Label Label18{"email/URL"};
+  TextBox Text4;
+  CommandButton Command3{"Now"};
   TextBox Text5;  ///< date
-  TextBox Text6;  ///< export path
 
+  Label Label5{"Export Path:"};
+  TextBox Text6;
+
+  Label Label6{"Frames at:"};
+  Label Label15{"Z Position:"};
+  Label Label7{"1."};
+  Label Label8{"2."};
+  Label Label9{"3."};
+  Label Label10{"4."};
+  Label Label11{"5."};
+  Label Label12{"6."};
+  Label Label13{"7."};
+  Label Label14{"8."};
   std::array<TextBox, 8> FrameText;
 
   CheckBox Check1{"Expansions", true};
@@ -31,8 +55,11 @@ struct SaveWindow : Window {
   CheckBox Check10{"Keel"};
 
   CommandButton Command1{"Save"};
+  CommandButton Command2{"Cancel"};
 
-  /// Shows the window and returns when it is hidden again.
+  /// The keyboard comes to the window.
+  Event<> GotFocus;
+  /// The face's slot: keeps the user in this window and returns when it is no longer visible.
   Event<> ShowModal;
 };
 

@@ -2,7 +2,9 @@
 
 #include <array>
 #include <cmath>
+#include <optional>
 
+#include "base/clock.h"
 #include "base/files.h"
 #include "base/number_text.h"
 #include "base/platform.h"
@@ -48,10 +50,78 @@ void FillBoxes() {
 void Dummy4_Click() {
   PitchAngle = 0;
   ApplyPitch();
+  if (!Form3.Loaded) {
+    Form3_Load();
+  }
   FillBoxes();
+  Form3.Visible = true;
   Form3.ShowModal();
   Form3.File1.Refresh();
   Form3.Text1.Text = HullFileName;
+}
+
+void Form3_Load() {
+  Form3.Loaded = true;
+  Form3.Move(Place::Centre);
+  Form3.Label3.Caption = Form3.Dir1.Path;
+  ReadSaveSettings();
+  if (Form3.Text6.Text->empty()) {
+    Form3.Text6.Text = Form3.Dir1.Path;
+  }
+  Form3.Visible = true;
+  Form3.Command1.SetFocus();
+}
+
+void Form3_Unload() {
+  if (Form3.Loaded) {
+    WriteSaveSettings();
+    Form3.Loaded = false;
+    Form3.Visible = false;
+  }
+}
+
+void Form3_File1_Click() {
+  if (!Form3.File1.FileName->empty()) {
+    HullFileName = ChosenPath(Form3.Dir1, Form3.File1);
+    Form3.Text1.Text = HullFileName;
+  }
+}
+
+void Form3_Dir1_Change() {
+  Form3.File1.Path = Form3.Dir1.Path;
+  Form3.Label3.Caption = Form3.Dir1.Path;
+}
+
+void Form3_Drive1_Change() {
+  Form3.Dir1.Path = Form3.Drive1.Drive;
+}
+
+void Form3_Command2_Click() {
+  Form1.StatusBar1.Panels[1] = "Working on..." + HullFileName;
+  Form1.Refresh();
+  Form3.File1.Refresh();
+  Form3.Visible = false;
+}
+
+void Form3_Command3_Click() {
+  Form3.Text5.Text = DateText();
+}
+
+void Form3_Text1_KeyPress(int key) {
+  if (key == EnterKey) {
+    Form3.Command1.Click();
+  }
+}
+
+void Form3_KeyDown(int& key) {
+  if (key == EscapeKey) {
+    key = NoKey;
+    Form3.Command2.Click();
+  }
+}
+
+void Form3_GotFocus() {
+  Form3.Command1.SetFocus();
 }
 
 void Form3_Text1_Change() {
@@ -106,12 +176,6 @@ void ReadSaveSettings() {
   }
   if (in.ReadItem(item)) {
     Form3.Text6.Text = std::string(item);
-  }
-}
-
-void OfferExportPath() {
-  if (Form3.Text6.Text->empty()) {
-    Form3.Text6.Text = WorkingFolder().string();
   }
 }
 

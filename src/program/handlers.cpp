@@ -3,6 +3,9 @@
 #include "controls/forms.h"
 #include "hull/bulkhead_boxes.h"
 #include "hull/chine_count.h"
+#include "hull/figures.h"
+#include "hull/offsets_table.h"
+#include "hull/open_dialog.h"
 #include "hydro/results.h"
 #include "hydro/waterline.h"
 #include "panels/save_and_create.h"
@@ -13,6 +16,7 @@
 #include "views/repaint.h"
 #include "views/spin_view.h"
 #include "views/view_choice.h"
+#include "views/vrml.h"
 
 namespace {
 
@@ -42,10 +46,18 @@ void BindViews() {
   Form1.Command1.Click = Command1_Click;
   Form1.Command5.Click = Command5_Click;
   Form1.Command6.Click = Command6_Click;
+  Form1.Command2.Click = Command2_Click;
   Form1.KeyDown = Form_KeyDown;
 }
 
 void BindForm3() {
+  Form3.Unload = Form3_Unload;
+  Form3.KeyDown = Form3_KeyDown;
+  Form3.GotFocus = Form3_GotFocus;
+  Form3.File1.Click = Form3_File1_Click;
+  Form3.Dir1.Change = Form3_Dir1_Change;
+  Form3.Drive1.Change = Form3_Drive1_Change;
+  Form3.Text1.KeyPress = Form3_Text1_KeyPress;
   Form3.Text1.Change = Form3_Text1_Change;
   Form3.Text2.Change = Form3_Text2_Change;
   Form3.Text3.Change = Form3_Text3_Change;
@@ -56,6 +68,50 @@ void BindForm3() {
     Form3.FrameText[i].Change = [i] { FrameText_Change(static_cast<int>(i)); };
   }
   Form3.Command1.Click = SaveAndCreate;
+  Form3.Command2.Click = Form3_Command2_Click;
+  Form3.Command3.Click = Form3_Command3_Click;
+}
+
+void BindFigures() {
+  for (std::size_t i = 0; i < Form4.Picture2.size(); ++i) {
+    Form4.Picture2[i].Click = [i] { Form4_Picture2_Click(static_cast<int>(i)); };
+  }
+  Form4.Text3.Change = Form4_Text3_Change;
+  Form4.VScroll2.Change = Form4_VScroll2_Change;
+  Form4.Text8.Change = Form4_Text8_Change;
+  Form4.Command5.Click = Form4_Command5_Click;
+  Form4.Command6.Click = Form4_Command6_Click;
+  Form4.Command7.Click = Form4_Command7_Click;
+}
+
+void BindRigAndBallast() {
+  for (const NumberBox& box : RigNumbers()) {
+    box.box->Change = [box] { RigBox_Change(box); };
+  }
+  for (const NumberBox& box : BallastNumbers()) {
+    box.box->Change = [box] { BallastBox_Change(box); };
+  }
+  for (Event<>* click : {&Form4.Rig.Click, &Form4.Option1.Click, &Form4.Option2.Click}) {
+    *click = [] { Form1.Picture2.Refresh(); };
+  }
+}
+
+void BindForm4() {
+  Form4.QueryUnload = Form4_QueryUnload;
+  Form4.File1.Click = Form4_File1_Click;
+  Form4.Dir1.Change = Form4_Dir1_Change;
+  Form4.Drive1.Change = Form4_Drive1_Change;
+  Form4.Command1.Click = Form4_Command1_Click;
+  BindFigures();
+  BindRigAndBallast();
+}
+
+void BindForm5() {
+  Form5.Unload = Form5_Unload;
+  Form5.Grid1.Click = Form5_Grid1_Click;
+  Form5.Text1.Change = Form5_Text1_Change;
+  Form5.Text1.KeyPress = Form5_Text1_KeyPress;
+  Form5.Text1.LostFocus = Form5_Text1_LostFocus;
 }
 
 }  // namespace
@@ -65,4 +121,6 @@ void BindHandlers() {
   BindViews();
   BindMenus();
   BindForm3();
+  BindForm4();
+  BindForm5();
 }

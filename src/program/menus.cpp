@@ -2,8 +2,10 @@
 
 #include "controls/forms.h"
 #include "hull/bulkhead_boxes.h"
+#include "hull/offsets_table.h"
 #include "hull/rescaling.h"
 #include "hydro/heel.h"
+#include "hydro/open_command.h"
 #include "hydro/waterline.h"
 #include "hydro/waterline_search.h"
 #include "panels/save_and_create.h"
@@ -15,7 +17,7 @@ const std::vector<MenuRow>& Form1Menus() {
   using enum MenuRow::Start;
   static const std::vector<MenuRow> rows = {
       {0, "&File"},
-      {1, "&Open", &Form1.dummy2, nullptr},
+      {1, "&Open", &Form1.dummy2, dummy2_Click},
       {1, "-"},
       {1, "&Save, Create", &Form1.Dummy4, Dummy4_Click},
       {1, "-"},
@@ -23,7 +25,7 @@ const std::vector<MenuRow>& Form1Menus() {
       {1, "-"},
       {1, "&Exit", &Form1.dummy6, dummy6_Click},
       {0, "&Data"},
-      {1, "&Offsets Table", &Form1.dummy8, nullptr},
+      {1, "&Offsets Table", &Form1.dummy8, dummy8_Click},
       {1, "-"},
       {1, "&Auto-Spline chines", &Form1.AutoSpline, AutoSpline_Click, Checked},
       {1, "&Lock Bulkheads in 'Z'", &Form1.LockBulkheads, LockBulkheads_Click, Unchecked},

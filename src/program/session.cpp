@@ -8,6 +8,7 @@
 #include "hull/chine_spline.h"
 #include "hull/hull_file.h"
 #include "hull/hull_model.h"
+#include "hull/open_dialog.h"
 #include "hull/plot_scale.h"
 #include "program/start_up.h"
 
@@ -39,6 +40,8 @@ void OpenLastHull() {
 }  // namespace
 
 void Form_Load() {
+  Form4_Load();
+  Form4.Visible = false;
   Form1.Move(Place::Centre);
   SetStartState();
   OpenLastHull();

@@ -107,6 +107,16 @@ TEST(NumberText, MasksRoundHalfAwayFromZeroAfterFifteenDigits) {
   }
 }
 
+TEST(NumberText, MasksWithoutTrailingZerosKeepTheirPoint) {
+  const std::pair<double, const char*> cases[] = {{28, "28."},      {0, "0."},       {0.5, "0.5"},
+                                                  {20.75, "20.75"}, {0.005, "0.01"}, {100, "100."},
+                                                  {-0.001, "-0."},  {-3.10, "-3.1"}};
+  for (const auto& [value, text] : cases) {
+    EXPECT_EQ(FixedTextAtMost(value, 2), text);
+  }
+  EXPECT_EQ(FixedTextAtMost(NoValue, 2), "");
+}
+
 /// The short ways against the C library, on coordinates, on neighbours of halves and on any value.
 TEST(NumberText, ShortWaysAgreeWithTheLibrary) {
   std::mt19937_64 random(7);

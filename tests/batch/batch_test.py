@@ -189,7 +189,8 @@ class BatchTest(unittest.TestCase):
             self.assertEqual(done.returncode, 2, arguments)
             self.assertTrue(done.stderr, arguments)
         self.assertEqual(files(self.folder), {})
-        for arguments in (["--help"], ["patterns", "--help"], ["points", "--help"], ["hydrostatics", "--help"]):
+        for arguments in (["--help"], ["patterns", "--help"], ["points", "--help"], ["hydrostatics", "--help"],
+                          ["vrml", "--help"]):
             done = run(*arguments)
             self.assertEqual(done.returncode, 0)
             for word in ("NAME", "SYNOPSIS", "EXAMPLE"):

@@ -7,6 +7,7 @@
 #include "hull/hull_file.h"
 #include "hull/hull_model.h"
 #include "panels/save_dialog.h"
+#include "program/start_up.h"
 #include "support/program_test.h"
 
 namespace {
@@ -142,14 +143,13 @@ TEST_F(SaveAndCreateTest, SettingsComeBack) {
   Form3.Check2.Value = true;
   Form3.Check10.Value = true;
   Form3.Text6.Text = "patterns";
-  WriteSaveSettings();
+  Form3.Unload();
   EXPECT_EQ(Read("hull.dat"),
             Joined({" 0 ", " 0 ", " 0 ", " 0 ", " 0 ", " 1 ", " 0 ", " 0 ", " 0 ", " 1 ", "patterns"}));
-  Write("HULL.DAT2", "");
-  Form3.Check1.Value = true;
-  Form3.Check2.Value = false;
-  Form3.Text6.Text = "elsewhere";
-  ReadSaveSettings();
+  StartProgram();
+  Form3.Unload();
+  EXPECT_EQ(Lines(Read("hull.dat"))[0], " 0 ") << "a window that was never made writes no settings";
+  Dummy4_Click();
   EXPECT_FALSE(Form3.Check1.Value);
   EXPECT_TRUE(Form3.Check2.Value);
   EXPECT_EQ(ExportPath,
@@ -157,6 +157,75 @@ TEST_F(SaveAndCreateTest, SettingsComeBack) {
   Write("hull.dat", " 1 \r\n 1 ");
   ReadSaveSettings();
   EXPECT_TRUE(Form3.Check1.Value && Form3.Check3.Value && Form3.Check10.Value) << "what is missing stays";
+  Form3.Text6.Text = "plans, old";
+  Form3.Unload();
+  Dummy4_Click();
+  EXPECT_EQ(*Form3.Text6.Text, "plans") << "a comma ends the path";
+  Form3.Text6.Text = "";
+  Form3.Unload();
+  Dummy4_Click();
+  EXPECT_EQ(*Form3.Text6.Text, folder.string()) << "an empty path is the open folder";
+}
+
+TEST_F(SaveAndCreateTest, TheDialogComesAndGoes) {
+  StartProgram();
+  std::string seen;
+  Form3.Move = [&](Place place) { seen += place == Place::Centre ? "centre " : "?"; };
+  Form3.Command1.SetFocus = [&] { seen += "focus "; };
+  Form3.File1.Refresh = [&] { seen += "files "; };
+  Form3.ShowModal = [&] {
+    seen += Form3.Visible ? "modal " : "?";
+    EXPECT_EQ(*Form3.Label3.Caption, folder.string());
+    EXPECT_EQ(*Form3.Text4.Text, "a@b.c");
+    Form3.GotFocus();
+    Form3.Command3.Click();
+    Form3.Text1.Text = "skiff";
+    int key = EscapeKey;
+    Form3.KeyDown(key);
+    EXPECT_EQ(key, NoKey);
+  };
+  HullContact = "a@b.c";
+  Form1.Dummy4.Click();
+  EXPECT_EQ(seen, "centre focus modal focus files files ");
+  EXPECT_EQ(HullDate, "11-16-2026");
+  EXPECT_FALSE(Form3.Visible);
+  EXPECT_EQ(*Form1.StatusBar1.Panels[1], "Working on...skiff.tvh");
+  EXPECT_EQ(Names(), (std::vector<std::string>{"out"})) << "nothing was saved";
+  seen.clear();
+  Form3.ShowModal = [] {
+    int key = UpKey;
+    Form3.KeyDown(key);
+    EXPECT_EQ(key, UpKey);
+    Form3.Check1.Value = false;
+    Form3.Text1.KeyPress(EnterKey);
+  };
+  Form1.Dummy4.Click();
+  EXPECT_EQ(seen, "files files ") << "made once, with one refresh by the save and one behind it";
+  EXPECT_TRUE(Exists("skiff.tvh"));
+}
+
+TEST_F(SaveAndCreateTest, AChosenFileGivesItsNameOnly) {
+  Form3.File1.Click();
+  EXPECT_EQ(HullFileName, "default.tvh") << "none is chosen";
+  Form3.Dir1.Path = (folder / "out").string();
+  EXPECT_EQ(*Form3.Label3.Caption, *Form3.Dir1.Path);
+  Form3.File1.FileName = "skiff.old.tvh";
+  Form3.File1.Click();
+  EXPECT_EQ(HullFileName, (folder / "out/skiff.tvh").string());
+  Form3.Drive1.Drive = "/my.boats";
+  EXPECT_EQ(*Form3.File1.Path, "/my.boats");
+  EXPECT_EQ(*Form3.File1.FileName, "") << "another folder has no chosen file";
+  Form3.File1.FileName = "skiff.tvh";
+  Form3.File1.Click();
+  EXPECT_EQ(HullFileName, "/my.tvh") << "cut at the first dot, which is the folder's";
+}
+
+TEST_F(SaveAndCreateTest, ClearingDeletesPatternsOnly) {
+  for (const char* name : {"a.UC", "handplot.txt", "chine1.tri", "a.dxf"}) {
+    Write(name, "old");
+  }
+  Form1.dummy21.Click();
+  EXPECT_EQ(Names(), (std::vector<std::string>{"a.dxf", "chine1.tri", "out"}));
 }
 
 TEST_F(SaveAndCreateTest, DecimalCommasOfTheLocaleNeverShow) {
