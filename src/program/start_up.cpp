@@ -10,6 +10,7 @@
 #include "hydro/heel.h"
 #include "hydro/hydrostatics.h"
 #include "hydro/waterline_search.h"
+#include "nest/nest_model.h"
 #include "program/handlers.h"
 
 void StartProgram() {
@@ -23,6 +24,7 @@ void StartProgram() {
   SetDefaultHydrostatics();
   ResetHeel();
   ResetPitchWarning();
+  Form2_Unload();
   Form1.AutoSpline.Checked = true;
   Form1.Freshwater.Checked = true;
   Form1.EnterHeel.Enabled = false;

@@ -18,6 +18,12 @@ class RecordingSurface : public DrawSurface {
     Note("line " + Point(x1, y1) + " " + Point(x2, y2) + Colour(colour));
   }
   void LineTo(double x2, double y2, int colour) override { Note("to " + Point(x2, y2) + Colour(colour)); }
+  void Box(double x1, double y1, double x2, double y2, int colour) override {
+    Note("box " + Point(x1, y1) + " " + Point(x2, y2) + Colour(colour));
+  }
+  void FilledBox(double x1, double y1, double x2, double y2, int colour) override {
+    Note("filled " + Point(x1, y1) + " " + Point(x2, y2) + Colour(colour));
+  }
   void PSet(double x, double y, int colour) override { Note("point " + Point(x, y) + Colour(colour)); }
   void Circle(double x, double y, double radius, int colour, double from, double to) override {
     const bool whole = from == 0 && to == FullTurn;
