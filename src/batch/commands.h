@@ -50,3 +50,28 @@ struct HydrostaticsArguments {
 
 /// Prints the hydrostatics at one waterline or at several, upright or at one heel or several.
 int RunHydrostatics(const HydrostaticsArguments& arguments);
+
+struct NestArguments {
+  std::string hand_plot;  ///< a table as "handplot.txt"
+  std::string layout;     ///< JSON, see nest_layout.h
+};
+
+struct NestTableArguments {
+  NestArguments nest;
+  std::string out = "nest.txt";
+  std::string hull;  ///< the name in the head line; empty for that of a program just started
+  std::string date;
+  std::string time;
+};
+
+/// Lays parts out on sheets and writes the table for marking them out by hand.
+int RunNestTable(const NestTableArguments& arguments);
+
+struct NestPrintArguments {
+  NestArguments nest;
+  std::string pdf;
+  std::string fit = "print";
+};
+
+/// Lays parts out on sheets and writes a PDF file with a page a sheet.
+int RunNestPrint(const NestPrintArguments& arguments);
