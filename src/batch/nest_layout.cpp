@@ -18,11 +18,14 @@ constexpr double MostTurn = 3600;
 constexpr double LeastSide = 1;
 constexpr double MostSide = 10000;
 
-/// What stands in the file, short enough for a message and in plain letters.
-std::string Found(const Json& value) {
+std::string Shown(const Json& value) {
   constexpr std::size_t most = 40;
   const std::string text = value.dump(-1, ' ', true, Json::error_handler_t::replace);
-  return ", found " + text.substr(0, most) + (text.size() > most ? "..." : "");
+  return text.substr(0, most) + (text.size() > most ? "..." : "");
+}
+
+std::string Found(const Json& value) {
+  return ", found " + Shown(value);
 }
 
 [[noreturn]] void Expected(const std::string& place, const std::string& what) {
@@ -160,4 +163,8 @@ NestLayout ReadNestLayout(std::string_view text) {
   }
   ReadParts(Required(json, "", "parts", "a list of parts"), layout);
   return layout;
+}
+
+std::string Quoted(std::string_view text) {
+  return Shown(Json(text));
 }

@@ -35,3 +35,6 @@ struct NestLayout {
 /// Reads a layout; throws std::invalid_argument, saying where and what was expected, for a text that is
 /// no layout.
 NestLayout ReadNestLayout(std::string_view text);
+
+/// A text from a file as a message can show it: quoted, short, in plain letters.
+std::string Quoted(std::string_view text);

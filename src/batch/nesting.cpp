@@ -49,7 +49,7 @@ int FindPart(const std::string& name) {
 std::string NamesOfParts() {
   std::string names;
   for (int p = 1; p <= NestPartCount; ++p) {
-    names += (p > 1 ? ", " : "") + NestName(p);
+    names += (p > 1 ? ", " : "") + Quoted(NestName(p));
   }
   return names;
 }
@@ -109,7 +109,7 @@ bool LayOut(const NestArguments& arguments) {
   for (const NestPartLayout& part : layout.parts) {
     const int p = FindPart(part.name);
     if (p == 0) {
-      Complain(arguments.layout + ": " + part.name + ": no such part in " + arguments.hand_plot +
+      Complain(arguments.layout + ": " + Quoted(part.name) + ": no such part in " + arguments.hand_plot +
                "; expected one of " + NamesOfParts());
       return false;
     }

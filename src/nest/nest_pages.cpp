@@ -80,6 +80,13 @@ void PaintPrnPage(int number, DrawSurface& page) {
   PaintParts(page, s, s);
 }
 
+void PrintPages(NestFit fit) {
+  const PrintJob job = NestPages(fit);
+  if (job.pages > 0) {
+    Form2.Print(job);
+  }
+}
+
 }  // namespace
 
 PrintJob NestPages(NestFit fit) {
@@ -90,12 +97,12 @@ PrintJob NestPages(NestFit fit) {
 }
 
 void Form2_Command9_Click() {
-  Form2.Print(NestPages(NestFit::Prn));
+  PrintPages(NestFit::Prn);
 }
 
 void Form2_Command10_Click() {
   constexpr int warning_with_cancel = 48 + 1;
   if (MsgBox(Warning, warning_with_cancel, "Beta Print: Beware") != Answer::Cancel) {
-    Form2.Print(NestPages(NestFit::Print));
+    PrintPages(NestFit::Print);
   }
 }

@@ -12,7 +12,7 @@
 namespace {
 
 /// Coordinates far outside of the page would overflow the device's own numbers.
-constexpr double FarOutside = 1e6;
+constexpr double FarOutside = 1e8;
 
 bool IsDrawable(QPointF at) {
   return std::abs(at.x()) < FarOutside && std::abs(at.y()) < FarOutside;

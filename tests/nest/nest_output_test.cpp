@@ -128,6 +128,8 @@ TEST_F(NestOutput, PrintWarnsFirst) {
             "49", "Beta Print: Beware"}));
   asked.clear();
   EXPECT_EQ(Printed(Form2.Command9).size(), 3U);
+  Form2.Text1.Text = std::string("none");
+  EXPECT_EQ(Printed(Form2.Command9), Text{}) << "no sheet, no page";
   EXPECT_EQ(asked, Text{});
 }
 
