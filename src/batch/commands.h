@@ -58,3 +58,28 @@ struct VrmlArguments {
 
 /// Writes the hull as a solid for viewers, as the button "VRML" does.
 int RunVrml(const VrmlArguments& arguments);
+
+struct NestArguments {
+  std::string hand_plot;  ///< a table as "handplot.txt"
+  std::string layout;     ///< JSON, see nest_layout.h
+};
+
+struct NestTableArguments {
+  NestArguments nest;
+  std::string out = "nest.txt";
+  std::string hull;  ///< the name in the head line; empty for that of a program just started
+  std::string date;
+  std::string time;
+};
+
+/// Lays parts out on sheets and writes the table for marking them out by hand.
+int RunNestTable(const NestTableArguments& arguments);
+
+struct NestPrintArguments {
+  NestArguments nest;
+  std::string pdf;
+  std::string fit = "print";
+};
+
+/// Lays parts out on sheets and writes a PDF file with a page a sheet.
+int RunNestPrint(const NestPrintArguments& arguments);

@@ -75,6 +75,15 @@ std::string CheckNotEmpty(const std::string& text) {
   return text.empty() ? "expected a name, found an empty one" : "";
 }
 
+void AddClock(CLI::App* command, std::string& date, std::string& time) {
+  command->add_option("--date", date, "Date to write instead of today's")
+      ->type_name("MM-DD-YYYY")
+      ->check(CheckDate);
+  command->add_option("--time", time, "Time to write instead of the clock's")
+      ->type_name("HH:MM:SS")
+      ->check(CheckTime);
+}
+
 constexpr const char* HullHelp =
     "\nHULL\n  A hull file (.tvh). Without it, the built-in hull. The file is only read.\n";
 
@@ -109,12 +118,7 @@ void AddPatterns(CLI::App& app, PatternsArguments& arguments, std::function<int(
                    "Folder for the copies, from the current one; the working folder otherwise")
       ->type_name("DIR")
       ->check(CheckNotEmpty);
-  command->add_option("--date", arguments.date, "Date to write instead of today's")
-      ->type_name("MM-DD-YYYY")
-      ->check(CheckDate);
-  command->add_option("--time", arguments.time, "Time to write instead of the clock's")
-      ->type_name("HH:MM:SS")
-      ->check(CheckTime);
+  AddClock(command, arguments.date, arguments.time);
   command->footer(std::string(HullHelp) +
                   "\nEXAMPLE\n  tarve-batch patterns dory.tvh --into dory --deck --text --frame 40 --dxf\n");
   command->callback([&] {
@@ -205,6 +209,66 @@ void AddVrml(CLI::App& app, VrmlArguments& arguments, std::function<int()>& run)
   command->callback([&] { run = [&arguments] { return RunVrml(arguments); }; });
 }
 
+constexpr const char* LayoutHelp =
+    "\nLAYOUT\n"
+    "  {\"sheet\": {\"height\": 48, \"length\": 96, \"count\": 3},\n"
+    "   \"parts\": [{\"name\": \"chine1.uc\", \"x\": 48, \"y\": 24, \"turn\": 90, \"flip\": true,\n"
+    "              \"copy\": {\"x\": 140, \"y\": 24}}]}\n"
+    "  Inches and degrees. x and y place the center on the row of 3 to 5 sheets, from the\n"
+    "  lower left corner of the first; each instance is flipped first and turned then,\n"
+    "  anticlockwise. The last part of a table has no center: its own origin is placed.\n"
+    "  Without \"sheet\", three sheets of 48 by 96.\n";
+
+void AddNestOptions(CLI::App* command, NestArguments& arguments) {
+  command->add_option("--handplot", arguments.hand_plot, "Hand plotting table with the parts")
+      ->type_name("FILE")
+      ->required()
+      ->check(CheckNotEmpty);
+  command->add_option("--layout", arguments.layout, "Where they lie, see below")
+      ->type_name("LAYOUT.json")
+      ->required()
+      ->check(CheckNotEmpty);
+}
+
+void AddNestTable(CLI::App& app, NestTableArguments& arguments, std::function<int()>& run) {
+  CLI::App* const command = app.add_subcommand("nest-table", "parts laid out on sheets, to mark out by hand");
+  command->formatter(std::make_shared<SynopsisFormatter>(
+      "  tarve-batch nest-table --handplot FILE --layout LAYOUT.json [--out FILE]\n"
+      "              [--hull NAME] [--date MM-DD-YYYY] [--time HH:MM:SS]"));
+  AddNestOptions(command, arguments.nest);
+  command->add_option("--out", arguments.out, "The table to write; nest.txt otherwise")
+      ->type_name("FILE")
+      ->check(CheckNotEmpty);
+  command->add_option("--hull", arguments.hull, "Name of the hull in the head line")
+      ->type_name("NAME")
+      ->check(CheckNotEmpty);
+  AddClock(command, arguments.date, arguments.time);
+  command->footer(std::string(LayoutHelp) +
+                  "\nEXAMPLE\n  tarve-batch nest-table --handplot dory/handplot.txt --layout dory.json\n");
+  command->callback([&] { run = [&arguments] { return RunNestTable(arguments); }; });
+}
+
+void AddNestPrint(CLI::App& app, NestPrintArguments& arguments, std::function<int()>& run) {
+  CLI::App* const command = app.add_subcommand("nest-print", "parts laid out on sheets, a page a sheet");
+  command->formatter(std::make_shared<SynopsisFormatter>(
+      "  tarve-batch nest-print --handplot FILE --layout LAYOUT.json --pdf FILE\n"
+      "              [--fit print|prn]"));
+  AddNestOptions(command, arguments.nest);
+  command->add_option("--pdf", arguments.pdf, "The PDF file to write")
+      ->type_name("FILE")
+      ->required()
+      ->check(CheckNotEmpty);
+  command
+      ->add_option("--fit", arguments.fit,
+                   "print (the usual one): the sheet between margins; prn: it fills the page")
+      ->type_name("FIT")
+      ->check(CLI::IsMember({"print", "prn"}));
+  command->footer(
+      std::string(LayoutHelp) +
+      "\nEXAMPLE\n  tarve-batch nest-print --handplot dory/handplot.txt --layout dory.json --pdf dory.pdf\n");
+  command->callback([&] { run = [&arguments] { return RunNestPrint(arguments); }; });
+}
+
 int Run(int argc, char** argv) {
   CLI::App app("work on hull files without a window");
   app.formatter(std::make_shared<SynopsisFormatter>(
@@ -217,15 +281,19 @@ int Run(int argc, char** argv) {
   PointsArguments points;
   HydrostaticsArguments hydrostatics;
   VrmlArguments vrml;
+  NestTableArguments nest_table;
+  NestPrintArguments nest_print;
   std::function<int()> run;
   AddPatterns(app, patterns, run);
   AddPoints(app, points, run);
   AddHydrostatics(app, hydrostatics, run);
   AddVrml(app, vrml, run);
+  AddNestTable(app, nest_table, run);
+  AddNestPrint(app, nest_print, run);
   try {
     app.parse(argc, argv);
-  } catch (const CLI::RequiredError&) {
-    Complain("expected a command; see tarve-batch --help");
+  } catch (const CLI::RequiredError& error) {
+    Complain(app.get_subcommands().empty() ? "expected a command; see tarve-batch --help" : error.what());
     return WrongUsage;
   } catch (const CLI::Success& help) {
     return app.exit(help);

@@ -8,6 +8,11 @@
 #include "hull/open_dialog.h"
 #include "hydro/results.h"
 #include "hydro/waterline.h"
+#include "nest/nest_editing.h"
+#include "nest/nest_model.h"
+#include "nest/nest_pages.h"
+#include "nest/nest_table.h"
+#include "nest/nest_view.h"
 #include "panels/save_and_create.h"
 #include "panels/save_dialog.h"
 #include "program/menus.h"
@@ -48,6 +53,39 @@ void BindViews() {
   Form1.Command6.Click = Command6_Click;
   Form1.Command2.Click = Command2_Click;
   Form1.KeyDown = Form_KeyDown;
+}
+
+void BindForm2Picture() {
+  Form2.Picture1.Refresh = Form2_Picture1_Paint;
+  Form2.Picture1.MouseDown = Form2_Picture1_MouseDown;
+  Form2.Picture1.MouseMove = Form2_Picture1_MouseMove;
+  Form2.Picture1.MouseUp = Form2_Picture1_MouseUp;
+  Form2.Image3.Click = Form2_Image3_Click;
+  Form2.Image4.Click = Form2_Image4_Click;
+}
+
+void BindForm2() {
+  Form2.Unload = Form2_Unload;
+  Form2.KeyDown = Form2_KeyDown;
+  Form2.List1.Click = Form2_List1_Click;
+  Form2.Command1.Click = Form2_Command1_Click;
+  Form2.Command2.Click = Form2_Command2_Click;
+  Form2.Command3.Click = Form2_Command3_Click;
+  Form2.Command4.Click = Form2_Command4_Click;
+  Form2.Command5.Click = Form2_Command5_Click;
+  Form2.Command6.Click = Form2_Command6_Click;
+  Form2.Command7.Click = Form2_Command7_Click;
+  Form2.Command8.Click = Form2_Command8_Click;
+  Form2.Command9.Click = Form2_Command9_Click;
+  Form2.Command10.Click = Form2_Command10_Click;
+  for (OptionButton* option : {&Form2.Option1, &Form2.Option2, &Form2.Option3}) {
+    option->Click = Form2_Sheets_Change;
+  }
+  Form2.Text1.Change = Form2_Sheets_Change;
+  Form2.Text2.Change = Form2_Sheets_Change;
+  Form2.Check1.Click = Form2_Check1_Click;
+  Form2.Check2.Click = [] { Form2.Picture1.Refresh(); };
+  BindForm2Picture();
 }
 
 void BindForm3() {
@@ -120,6 +158,7 @@ void BindHandlers() {
   BindForm1();
   BindViews();
   BindMenus();
+  BindForm2();
   BindForm3();
   BindForm4();
   BindForm5();

@@ -8,6 +8,7 @@
 #include "hydro/open_command.h"
 #include "hydro/waterline.h"
 #include "hydro/waterline_search.h"
+#include "nest/nest_model.h"
 #include "panels/save_and_create.h"
 #include "panels/save_dialog.h"
 #include "program/session.h"
@@ -53,7 +54,7 @@ const std::vector<MenuRow>& Form1Menus() {
       {1, "-"},
       {1, "&True View", &Form1.TrueView, TrueView_Click, Checked},
       {0, "&Patterns"},
-      {1, "&Nesting", &Form1.dummy15, nullptr},
+      {1, "&Nesting", &Form1.dummy15, dummy15_Click},
   };
   return rows;
 }

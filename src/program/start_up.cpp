@@ -13,6 +13,7 @@
 #include "hydro/heel.h"
 #include "hydro/hydrostatics.h"
 #include "hydro/waterline_search.h"
+#include "nest/nest_model.h"
 #include "program/handlers.h"
 #include "views/repaint.h"
 
@@ -46,6 +47,7 @@ void SetStartState() {
   ResetPitchWarning();
   ResetViews();
   OffsetsNotesShown = false;
+  Form2_Unload();
   PlotXScale = PlotYScale = 500;
   Form1.Text3.Text = "4";
 }

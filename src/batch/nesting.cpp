@@ -1,0 +1,173 @@
+// The commands on nesting: parts laid out as a file says, then the window's buttons pressed.
+
+#include <filesystem>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <system_error>
+
+#include "base/clock.h"
+#include "base/files.h"
+#include "base/number_text.h"
+#include "batch/commands.h"
+#include "batch/nest_layout.h"
+#include "batch/report.h"
+#include "controls/dialogs.h"
+#include "controls/forms.h"
+#include "hull/hull_model.h"
+#include "nest/nest_editing.h"
+#include "nest/nest_model.h"
+#include "program/start_up.h"
+#include "ui/pdf_pages.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::optional<std::string> ReadInput(const std::string& name, const char* what) {
+  const fs::path file = FindFile(name);
+  if (file.empty()) {
+    Complain(name + ": no such " + what);
+    return std::nullopt;
+  }
+  std::optional<std::string> text = ReadTextFile(file);
+  if (!text) {
+    ComplainAboutFiles();
+  }
+  return text;
+}
+
+int FindPart(const std::string& name) {
+  for (int p = 1; p <= NestPartCount; ++p) {
+    if (NestName(p) == name) {
+      return p;
+    }
+  }
+  return 0;
+}
+
+std::string NamesOfParts() {
+  std::string names;
+  for (int p = 1; p <= NestPartCount; ++p) {
+    names += (p > 1 ? ", " : "") + Quoted(NestName(p));
+  }
+  return names;
+}
+
+void PlaceSelected(const NestPlacing& placing) {
+  const NestInstance& instance = NestInstances[static_cast<std::size_t>(NestCopySelected)];
+  instance.pos_x(NestCurrent) = placing.x;
+  instance.pos_y(NestCurrent) = placing.y;
+  if (placing.flip) {
+    Form2.Command1.Click();
+  }
+  if (placing.turn != 0) {
+    RotateSelected(placing.turn);
+  }
+}
+
+void LayOutPart(int p, const NestPartLayout& layout) {
+  Form2.List1.SetListIndex(p - 1);
+  PlaceSelected(layout.part);
+  if (layout.copy) {
+    Form2.Command5.Click();
+    NestCopySelected = 1;
+    PlaceSelected(*layout.copy);
+    NestCopySelected = 0;
+  }
+}
+
+void SetSheets(const NestLayout& layout) {
+  Form2.Option1.Value = layout.sheets == 3;
+  Form2.Option2.Value = layout.sheets == 4;
+  Form2.Option3.Value = layout.sheets == 5;
+  Form2.Text1.Text = PlainText(layout.height);
+  Form2.Text2.Text = PlainText(layout.length);
+}
+
+/// Nests as a user would in a program just started.
+bool LayOut(const NestArguments& arguments) {
+  const std::optional<std::string> table = ReadInput(arguments.hand_plot, "hand plotting table");
+  const std::optional<std::string> text = table ? ReadInput(arguments.layout, "layout") : std::nullopt;
+  if (!table || !text) {
+    return false;
+  }
+  NestLayout layout;
+  try {
+    layout = ReadNestLayout(*text);
+  } catch (const std::invalid_argument& error) {
+    Complain(arguments.layout + ": " + error.what());
+    return false;
+  }
+  StartProgram();
+  ReadHandPlot(*table);
+  if (NestPartCount == 0) {
+    Complain(arguments.hand_plot + ": expected a hand plotting table such as handplot.txt, found no parts");
+    return false;
+  }
+  SetSheets(layout);
+  for (const NestPartLayout& part : layout.parts) {
+    const int p = FindPart(part.name);
+    if (p == 0) {
+      Complain(arguments.layout + ": " + Quoted(part.name) + ": no such part in " + arguments.hand_plot +
+               "; expected one of " + NamesOfParts());
+      return false;
+    }
+    LayOutPart(p, part);
+  }
+  return true;
+}
+
+/// Whether a file to write is one of those read.
+bool WouldReplaceInput(const std::string& out, const NestArguments& arguments) {
+  for (const std::string& input : {arguments.hand_plot, arguments.layout}) {
+    std::error_code failed;
+    if (fs::equivalent(FindFile(out), FindFile(input), failed)) {
+      Complain(out + ": expected a file to write other than " + input + ", which is read");
+      return true;
+    }
+  }
+  return false;
+}
+
+int Finish() {
+  const bool done = CommitChanges();
+  if (ComplainAboutFiles() || !done) {
+    return CouldNot;
+  }
+  ListFiles(WorkingFolder());
+  return Done;
+}
+
+}  // namespace
+
+int RunNestTable(const NestTableArguments& arguments) {
+  WatchFiles();
+  FixClock(arguments.date, arguments.time);
+  if (WouldReplaceInput(arguments.out, arguments.nest) || !LayOut(arguments.nest)) {
+    return CouldNot;
+  }
+  if (!arguments.hull.empty()) {
+    HullFileName = arguments.hull;
+  }
+  InputBox = [&](const std::string&, const std::string&, const std::string&) { return arguments.out; };
+  HoldBackChanges();
+  Form2.Command8.Click();
+  return Finish();
+}
+
+int RunNestPrint(const NestPrintArguments& arguments) {
+  WatchFiles();
+  if (WouldReplaceInput(arguments.pdf, arguments.nest) || !LayOut(arguments.nest)) {
+    return CouldNot;
+  }
+  std::string pdf;
+  Form2.Print = [&pdf](const PrintJob& job) { pdf = PdfOfPages(job); };
+  (arguments.fit == "prn" ? Form2.Command9 : Form2.Command10).Click();
+  if (pdf.empty()) {
+    return Complain(arguments.pdf + ": the pages could not be painted");
+  }
+  HoldBackChanges();
+  WriteTextFile(arguments.pdf, pdf);
+  return Finish();
+}
