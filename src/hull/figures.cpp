@@ -45,13 +45,19 @@ bool FindFigure(TextReader& in, std::string_view& name) {
   return false;
 }
 
+/// What a figure's inches are multiplied with, and then divided by.
+struct Scaling {
+  double times = 1;
+  double over = 1;
+};
+
 /// A line without a blank has neither X nor Y: its point keeps what the table held.
-void TakePoint(std::string_view line, double scale) {
+void TakePoint(std::string_view line, const Scaling& scaling) {
   ++FigureCount;
   const std::size_t blank = line.find(' ');
   if (blank != std::string_view::npos) {
-    FigureX(FigureCount) = NumberOf(line.substr(0, blank)) * scale;
-    FigureY(FigureCount) = NumberOf(line.substr(blank)) * scale;
+    FigureX(FigureCount) = NumberOf(line.substr(0, blank)) * scaling.times / scaling.over;
+    FigureY(FigureCount) = NumberOf(line.substr(blank)) * scaling.times / scaling.over;
   }
   if (FigureX(FigureCount) > HullMaxX) {
     HullMaxX = FigureX(FigureCount);
@@ -62,12 +68,12 @@ void TakePoint(std::string_view line, double scale) {
 }
 
 /// The points of the figure whose name was read, with the largest ones in HullMaxX and HullMaxY.
-void ReadFigure(TextReader& in, double scale) {
+void ReadFigure(TextReader& in, const Scaling& scaling) {
   FigureCount = 0;
   HullMaxX = HullMaxY = -100;
   std::string_view line;
   while (in.ReadLine(line) && !Holds(line, "end")) {
-    TakePoint(line, scale);
+    TakePoint(line, scaling);
   }
 }
 
@@ -82,12 +88,12 @@ void DrawThumbnail(DrawSurface& surface) {
 /// Reads up to the figure of this number, each name showing in the window's caption as it passes.
 /// False if the file has fewer.
 bool ReadFigureOf(int index, std::string_view text) {
-  const double scale = NumberOf(*Form4.Text3.Text) / DrawnHeight;
+  const Scaling scaling{NumberOf(*Form4.Text3.Text), DrawnHeight};
   TextReader in(text);
   std::string_view name;
   for (int i = 0; FindFigure(in, name); ++i) {
     Form4.Caption = std::string(name);
-    ReadFigure(in, scale);
+    ReadFigure(in, scaling);
     if (i == index) {
       return true;
     }
@@ -130,7 +136,7 @@ void DrawFigureThumbnails() {
   TextReader in(*text);
   std::string_view name;
   for (std::size_t i = 0; FindFigure(in, name); ++i) {
-    ReadFigure(in, 1);
+    ReadFigure(in, {});
     if (i < Form4.Picture2.size()) {
       DrawThumbnail(*Form4.Picture2[i]);
     }

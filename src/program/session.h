@@ -3,7 +3,7 @@
 
 /// The window's load: the open dialog is loaded and hidden, all tables and controls take their start
 /// values, "default.tvh" is opened if the working folder has one, the window is shown, and nothing
-/// goes on until the about text is dismissed. The slots must be bound before (BindProgram).
+/// goes on until the about text is dismissed. The slots must be bound before (ResetProgram).
 void Form_Load();
 
 /// The clock's tick: writes the hull as it stands, pitched or not, to "default.tvh", whatever

@@ -30,17 +30,17 @@ void ShowWorkingFolder() {
 
 }  // namespace
 
-void BindProgram() {
+void ResetProgram() {
   ResetForms();
   ResetDialogs();
   SetDataFolder(ShippedDataFolder());
   BindHandlers();
+  ResetFigures();
+  ShowWorkingFolder();
 }
 
 void SetStartState() {
   SetDefaultHull();
-  ShowWorkingFolder();
-  ResetFigures();
   ResetRig();
   SetDefaultHydrostatics();
   ResetHeel();
@@ -53,7 +53,7 @@ void SetStartState() {
 }
 
 void StartProgram() {
-  BindProgram();
+  ResetProgram();
   SetStartState();
   ReadPlotScale();
   Form1.Refresh();

@@ -1,11 +1,11 @@
 #pragma once
 // The start of the program, as far as it needs no window.
 
-/// Every control is as in a fresh program, and every slot has its handler. A face fills its own
-/// slots after this.
-void BindProgram();
+/// Every control is as in a fresh program and every slot has its handler, no figure is chosen, and the
+/// lists of files show the working folder. A face fills its own slots after this.
+void ResetProgram();
 
-/// Puts all tables into their start state: the built-in hull with four chines, no file, no figure.
+/// Puts the tables into their start state: the built-in hull with four chines, no results, no zoom.
 void SetStartState();
 
 /// A program without a window: both of the above, the plot scale of the working folder, and the

@@ -163,7 +163,8 @@ void Face(ListBox& control, QListWidget* widget) {
   };
   control.Show = show;
   show();
-  OnChoice(widget, [&control, widget](const QListWidgetItem* item) { control.SetListIndex(widget->row(item)); });
+  OnChoice(widget,
+           [&control, widget](const QListWidgetItem* item) { control.SetListIndex(widget->row(item)); });
 }
 
 void OnChoice(QListWidget* list, std::function<void(const QListWidgetItem*)> choose) {

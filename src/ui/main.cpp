@@ -11,6 +11,10 @@
 #include "program/start_up.h"
 #include "ui/dialog_faces.h"
 #include "ui/main_window.h"
+#include "ui/nesting_window.h"
+#include "ui/offsets_window.h"
+#include "ui/open_window.h"
+#include "ui/save_window.h"
 
 namespace {
 
@@ -45,14 +49,20 @@ int main(int argc, char** argv) {
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setCursorFlashTime(0);  // a blinking cursor would be work in idle
   ChooseWorkingFolder();
-  BindProgram();
+  ResetProgram();
   ShowDialogsWithQt();
   MainWindowWidget window;
+  OpenWindowWidget open(&window);
+  const SaveWindowWidget save(&window);
+  const OffsetsWindowWidget offsets(&window);
+  const NestingWindowWidget nesting;
   bool ended = false;
   Form1.Unload = [&ended] {
     ended = true;
     QApplication::exit(0);
   };
+  open.setAttribute(Qt::WA_DontShowOnScreen);  // it is loaded and hidden before anything shows
   Form_Load();
+  open.setAttribute(Qt::WA_DontShowOnScreen, false);
   return ended ? 0 : QApplication::exec();
 }

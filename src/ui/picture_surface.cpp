@@ -3,9 +3,10 @@
 #include <QFontMetricsF>
 #include <QMouseEvent>
 #include <QTimer>
-#include <array>
 #include <cmath>
 #include <numbers>
+
+#include "ui/palette.h"
 
 namespace {
 
@@ -49,15 +50,6 @@ int ButtonsDown(Qt::MouseButtons buttons) {
 }
 
 }  // namespace
-
-QColor PaletteColour(int colour) {
-  static const std::array<QColor, 16> palette = {
-      QColor(0, 0, 0),       QColor(0, 0, 128),   QColor(0, 128, 0),   QColor(0, 128, 128),
-      QColor(128, 0, 0),     QColor(128, 0, 128), QColor(128, 128, 0), QColor(192, 192, 192),
-      QColor(128, 128, 128), QColor(0, 0, 255),   QColor(0, 255, 0),   QColor(0, 255, 255),
-      QColor(255, 0, 0),     QColor(255, 0, 255), QColor(255, 255, 0), QColor(255, 255, 255)};
-  return colour < 0 || colour > 15 ? palette[0] : palette[static_cast<std::size_t>(colour)];
-}
 
 PictureSurface::PictureSurface(PictureBox& picture, QWidget* parent) : QWidget(parent), picture_(picture) {
   setAttribute(Qt::WA_OpaquePaintEvent);

@@ -67,6 +67,3 @@ class PictureSurface : public QWidget, public DrawSurface {
   double left_ = 0, right_ = 1, top_ = 1, bottom_ = 0;
   QPointF current_;  ///< in pixels
 };
-
-/// The classic 16 colours by their number; Foreground is black.
-QColor PaletteColour(int colour);

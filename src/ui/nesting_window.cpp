@@ -1,0 +1,123 @@
+#include "ui/nesting_window.h"
+
+#include <QApplication>
+#include <QBoxLayout>
+#include <QDesktopServices>
+#include <QToolButton>
+#include <QUrl>
+
+#include "base/files.h"
+#include "controls/forms.h"
+#include "ui/control_faces.h"
+#include "ui/new_widgets.h"
+#include "ui/picture_surface.h"
+#include "ui/printer.h"
+#include "ui/window_face.h"
+
+namespace {
+
+constexpr int TwipsPerPixel = 15;
+
+QToolButton* NewArrow(ClickableImage& image, Qt::ArrowType arrow, const QString& name) {
+  auto* button = new QToolButton;
+  button->setArrowType(arrow);
+  Describe(button, name, name);
+  QObject::connect(button, &QToolButton::clicked, button, [&image] { image.Click(); });
+  return button;
+}
+
+void StartViewer(const std::string& name) {
+  const std::filesystem::path path = FindFile(name);
+  if (!path.empty()) {
+    QDesktopServices::openUrl(QUrl::fromLocalFile(Shown(path.string())));
+  }
+}
+
+}  // namespace
+
+NestingWindowWidget::NestingWindowWidget() {
+  auto* rows = new QVBoxLayout(this);
+  rows->setContentsMargins(Gap, Gap, Gap, Gap);
+  rows->setSpacing(Gap);
+  auto* upper = NewRow();
+  auto* parts = new QListWidget;
+  parts->setFixedSize(220, 108);
+  Face(Form2.List1, parts);
+  Describe(parts, "Parts", "A click puts a part on the sheets, or takes it off");
+  upper->addWidget(parts);
+  upper->addLayout(BuildTools(), 1);
+  rows->addLayout(upper);
+  rows->addLayout(BuildPicture(), 1);
+  new WindowFace(Form2, this);
+  Form2.Beep = [] { QApplication::beep(); };
+  Form2.StartViewer = StartViewer;
+  Form2.Print = [this](const PrintJob& job) { PrintWithDialog(job, this); };
+  resize(1100, 560);
+}
+
+QBoxLayout* NestingWindowWidget::BuildTools() {
+  auto* rows = NewColumn();
+  rows->addLayout(BuildPartRow());
+  rows->addLayout(BuildSheetRow());
+  rows->addStretch(1);
+  return rows;
+}
+
+QBoxLayout* NestingWindowWidget::BuildPartRow() {
+  auto* row = NewRow();
+  row->addWidget(NewButton(Form2.Command1, "Flip the part", 0, "A mirror image of the part"));
+  row->addWidget(NewButton(Form2.Command2, "Turn the part by 180 degrees", 52));
+  row->addWidget(NewButton(Form2.Command3, "Turn the part by 90 degrees", 46));
+  row->addWidget(NewButton(Form2.Command4, "Turn the part anticlockwise", 52, "A quarter of a degree"));
+  row->addWidget(NewButton(Form2.Command6, "Turn the part clockwise", 46, "A quarter of a degree"));
+  row->addWidget(NewButton(Form2.Command5, "Copy the part", 0, "A second piece of the part, or none"));
+  row->addWidget(NewCheck(Form2.Check2, "Names of the parts"));
+  row->addStretch(1);
+  row->addWidget(
+      NewButton(Form2.Command8, "Save the table", 0, "Writes where each point falls on its sheet"));
+  row->addWidget(NewButton(Form2.Command10, "Print", 0, "A page for each sheet"));
+  row->addWidget(
+      NewButton(Form2.Command9, "Print another way", 0, "A page for each sheet, fitted by its longer side"));
+  return row;
+}
+
+QBoxLayout* NestingWindowWidget::BuildSheetRow() {
+  auto* row = NewRow();
+  row->addWidget(new QLabel("Sheet"));
+  row->addWidget(NewBox(Form2.Text1, "Height of a sheet", 48, "Inches"));
+  row->addWidget(new QLabel("x"));
+  row->addWidget(NewBox(Form2.Text2, "Length of a sheet", 48, "Inches"));
+  for (OptionButton* count : {&Form2.Option1, &Form2.Option2, &Form2.Option3}) {
+    row->addWidget(NewOption(*count));
+  }
+  row->addWidget(NewCheck(Form2.Check1, "A mark that is kept with the hull"));
+  row->addStretch(1);
+  row->addWidget(NewArrow(Form2.Image3, Qt::LeftArrow, "Slide to the first sheets"));
+  row->addWidget(NewArrow(Form2.Image4, Qt::RightArrow, "Slide to the last sheets"));
+  row->addWidget(NewButton(Form2.Command7, "View of the sheets", 100, "The next view of the sheets"));
+  return row;
+}
+
+QBoxLayout* NestingWindowWidget::BuildPicture() {
+  auto* row = NewRow();
+  opening_ = new QWidget;
+  opening_->setMinimumSize(300, 150);
+  picture_ = new PictureSurface(Form2.Picture1, opening_);
+  Describe(picture_, "Sheets with parts");
+  picture_->Resized = [] { Form2.Picture1.Refresh(); };
+  Form2.Picture1.Left.Show = Form2.Picture1.Width.Show = [this] { PlacePicture(); };
+  row->addWidget(opening_, 1);
+  return row;
+}
+
+void NestingWindowWidget::PlacePicture() {
+  const int left = (Form2.Picture1.Left - SlidingPicture::LeftAtRest) / TwipsPerPixel;
+  picture_->setGeometry(left, 0, Form2.Picture1.Width / TwipsPerPixel, opening_->height());
+}
+
+void NestingWindowWidget::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  layout()->activate();
+  Form2.Width = width() * TwipsPerPixel;
+  PlacePicture();
+}

@@ -1,0 +1,23 @@
+#pragma once
+// The face of Form5, "Offsets": a grid and the box that floats over its current cell.
+
+#include <QLineEdit>
+#include <QTableWidget>
+#include <QWidget>
+
+class OffsetsWindowWidget : public QWidget {
+ public:
+  explicit OffsetsWindowWidget(QWidget* parent);
+
+ protected:
+  bool eventFilter(QObject* target, QEvent* event) override;
+
+ private:
+  void ShowGrid();
+  void ShowBox();
+  bool LeavesByTab(QEvent* event);
+
+  QTableWidget* table_;
+  QLineEdit* box_;
+  bool changed_ = false;  ///< the grid holds what the table doesn't show yet
+};

@@ -1,0 +1,157 @@
+#include "ui/save_window.h"
+
+#include <QAbstractButton>
+#include <QBoxLayout>
+#include <QEvent>
+#include <QFormLayout>
+#include <QGridLayout>
+
+#include "controls/forms.h"
+#include "ui/control_faces.h"
+#include "ui/file_list_faces.h"
+#include "ui/new_widgets.h"
+#include "ui/window_face.h"
+
+SaveWindowWidget::SaveWindowWidget(QWidget* parent) : QWidget(parent, Qt::Window) {
+  setWindowModality(Qt::ApplicationModal);
+  auto* rows = new QVBoxLayout(this);
+  rows->setSpacing(Gap);
+  auto* upper = NewRow();
+  upper->addWidget(BuildFile(), 1);
+  upper->addWidget(BuildInformation(), 1);
+  rows->addLayout(upper, 1);
+  auto* lower = NewRow();
+  lower->addWidget(BuildFrames(), 1);
+  lower->addWidget(BuildChecks(), 1);
+  rows->addLayout(lower);
+  rows->addLayout(BuildButtons());
+  new WindowFace(Form3, this);
+  const auto show = Form3.Visible.Show;
+  Form3.Visible.Show = [this, show] {
+    show();
+    if (!Form3.Visible) {
+      until_hidden_.quit();
+    }
+  };
+  Form3.ShowModal = [this] { ShowModal(); };
+  resize(760, 560);
+}
+
+void SaveWindowWidget::ShowModal() {
+  Form3.Visible = true;
+  until_hidden_.exec();
+}
+
+bool SaveWindowWidget::event(QEvent* event) {
+  const bool done = QWidget::event(event);
+  if (event->type() == QEvent::WindowActivate) {
+    Form3.GotFocus();
+  }
+  return done;
+}
+
+QWidget* SaveWindowWidget::BuildFile() {
+  auto* column = NewColumn();
+  QLineEdit* name =
+      NewBox(Form3.Text1, "File name", 0, "Eight letters, or the letters before a dot, are kept");
+  column->addWidget(NewLabel(Form3.Label1, name));
+  column->addWidget(name);
+  auto* files = new QListWidget;
+  Face(Form3.File1, files);
+  Describe(files, "Hull files", "A click takes the name");
+  column->addWidget(files, 2);
+  auto* folders = new QListWidget;
+  Face(Form3.Dir1, folders);
+  Describe(folders, "Folders", "A double click goes to a folder");
+  column->addWidget(NewLabel(Form3.Label2, folders));
+  QLabel* folder = NewLabel(Form3.Label3);
+  folder->setWordWrap(true);
+  column->addWidget(folder);
+  column->addWidget(folders, 2);
+  auto* places = new QComboBox;
+  Face(Form3.Drive1, places);
+  Describe(places, "Drives and places");
+  auto* drive = NewRow();
+  drive->addWidget(NewLabel(Form3.Label4, places));
+  drive->addWidget(places, 1);
+  column->addLayout(drive);
+  return NewGroup("Hull file", column);
+}
+
+QWidget* SaveWindowWidget::BuildInformation() {
+  auto* form = new QFormLayout;
+  form->setVerticalSpacing(Gap);
+  const std::pair<Label*, TextBox*> texts[] = {
+      {&Form3.Label16, &Form3.Text2}, {&Form3.Label17, &Form3.Text3}, {&Form3.Label18, &Form3.Text4}};
+  for (const auto& [label, box] : texts) {
+    QLineEdit* edit = NewBox(*box, Shown(label->Caption));
+    form->addRow(NewLabel(*label, edit), edit);
+  }
+  form->addRow(NewButton(Form3.Command3, "Now", 0, "Puts today's date beside it"),
+               NewBox(Form3.Text5, "Date"));
+  auto* column = NewColumn();
+  column->addWidget(NewGroup(Shown(Form3.Frame1.Caption), form));
+  QLineEdit* path = NewBox(Form3.Text6, "Export path", 0, "Folder for the DXF and HPGL files");
+  column->addWidget(NewLabel(Form3.Label5, path));
+  column->addWidget(path);
+  column->addStretch(1);
+  auto* all = new QWidget;
+  column->setContentsMargins(0, 0, 0, 0);
+  all->setLayout(column);
+  return all;
+}
+
+QWidget* SaveWindowWidget::BuildFrames() {
+  Label* const numbers[] = {&Form3.Label7,  &Form3.Label8,  &Form3.Label9,  &Form3.Label10,
+                            &Form3.Label11, &Form3.Label12, &Form3.Label13, &Form3.Label14};
+  auto* grid = new QGridLayout;
+  grid->setSpacing(Gap);
+  grid->addWidget(NewLabel(Form3.Label15), 0, 0, 1, 5);
+  for (int i = 0; i < 8; ++i) {
+    const auto at = static_cast<std::size_t>(i);
+    QLineEdit* box = NewBox(Form3.FrameText[at], QString("Z position of frame %1").arg(i + 1), 64,
+                            "Inches from the stem; empty or 0 for no frame");
+    grid->addWidget(NewLabel(*numbers[at], box), 1 + i % 4, 2 * (i / 4));
+    grid->addWidget(box, 1 + i % 4, 2 * (i / 4) + 1);
+  }
+  grid->setColumnStretch(4, 1);
+  return NewGroup(Shown(Form3.Label6.Caption), grid);
+}
+
+QWidget* SaveWindowWidget::BuildChecks() {
+  struct Check {
+    CheckBox& box;
+    const char* tool_tip;
+  };
+  const Check checks[] = {
+      {Form3.Check1, "Develops all parts; off: only the hull file is saved"},
+      {Form3.Check3, "Writes HPGL files to the export path"},
+      {Form3.Check4, "Writes DXF files to the export path"},
+      {Form3.Check5, "Letters the parts"},
+      {Form3.Check6, "Bulkheads, frames and transom as one side only"},
+      {Form3.Check2, "Cuts a notch for a spar into bulkheads and frames"},
+      {Form3.Check7, "A pattern for the stem"},
+      {Form3.Check8, "Two panels across the bottom"},
+      {Form3.Check9, "A panel across the sheer"},
+      {Form3.Check10, "A panel across the keel"},
+  };
+  auto* grid = new QGridLayout;
+  grid->setSpacing(Gap);
+  int place = 0;
+  for (const Check& check : checks) {
+    grid->addWidget(NewCheck(check.box, check.tool_tip), place % 5, place / 5);
+    ++place;
+  }
+  return NewGroup("Create", grid);
+}
+
+QBoxLayout* SaveWindowWidget::BuildButtons() {
+  auto* row = NewRow();
+  row->addStretch(1);
+  QPushButton* save = NewButton(Form3.Command1, "Save", 90, "Saves the hull and creates what is ticked");
+  save->setDefault(true);
+  Form3.Command1.SetFocus = [save] { save->setFocus(); };
+  row->addWidget(save);
+  row->addWidget(NewButton(Form3.Command2, "Cancel", 90));
+  return row;
+}
