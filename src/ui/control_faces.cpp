@@ -29,6 +29,23 @@ class KeyWatch : public QObject {
   TextBox& control_;
 };
 
+/// Lets Enter press a button that has the keyboard, as the space bar does.
+class EnterPresses : public QObject {
+ public:
+  explicit EnterPresses(QAbstractButton* button) : QObject(button) { button->installEventFilter(this); }
+
+  bool eventFilter(QObject* button, QEvent* event) override {
+    if (event->type() == QEvent::KeyPress) {
+      const int key = static_cast<QKeyEvent*>(event)->key();
+      if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+        static_cast<QAbstractButton*>(button)->animateClick();
+        return true;
+      }
+    }
+    return false;
+  }
+};
+
 /// Watches for Enter in a list. The list's own signal for it would also come with a double click,
 /// whose two clicks have been told already.
 class EnterWatch : public QObject {
@@ -121,6 +138,7 @@ void Face(CommandButton& control, QAbstractButton* widget) {
   control.Caption.Show = show;
   show();
   QObject::connect(widget, &QAbstractButton::clicked, widget, [&control] { control.Click(); });
+  new EnterPresses(widget);
 }
 
 void Face(ComboBox& control, QComboBox* widget) {
