@@ -55,10 +55,11 @@ int PageOfLine(const QTextBlock& block, int line) {
   return PageOf(*block.document(), RectOf(block).top() + y + 1);
 }
 
-/// What makes no sense at the foot of a page: a heading, a picture above its caption, "as follows:".
+/// What makes no sense at the foot of a page: a heading, a picture above its caption, "as follows:", and the
+/// flat line between that and a box.
 bool KeepsWithNext(const QTextBlock& block) {
-  return !IsInTable(block) &&
-         (block.blockFormat().headingLevel() > 0 || HoldsPicture(block) || block.text().endsWith(':'));
+  return !IsInTable(block) && (block.blockFormat().headingLevel() > 0 || HoldsPicture(block) ||
+                               block.text().endsWith(':') || block.text().isEmpty());
 }
 
 /// The first block that must move for one to stay with what follows it.

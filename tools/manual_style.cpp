@@ -146,6 +146,15 @@ QList<QTextCursor> CodePieces(const QTextDocument& document) {
   return pieces;
 }
 
+/// A box that is put around text leaves an empty line on either side.
+void FlattenEmptyLine(const QTextBlock& block) {
+  if (block.text().isEmpty()) {
+    QTextBlockFormat flat;
+    flat.setLineHeight(1, QTextBlockFormat::FixedHeight);
+    QTextCursor(block).setBlockFormat(flat);
+  }
+}
+
 /// Puts each piece of code into one shaded box.
 void FrameCode(const QTextDocument& document) {
   QTextFrameFormat box;
@@ -153,7 +162,9 @@ void FrameCode(const QTextDocument& document) {
   box.setPadding(6);
   box.setBottomMargin(6);
   for (QTextCursor& piece : CodePieces(document)) {
-    piece.insertFrame(box);
+    const QTextFrame& frame = *piece.insertFrame(box);
+    FlattenEmptyLine(frame.lastCursorPosition().block().next());
+    FlattenEmptyLine(frame.firstCursorPosition().block().previous());
   }
 }
 
