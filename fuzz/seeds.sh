@@ -20,8 +20,10 @@ seed() {  # TARGET NAME: standard input as a seed of the target
   cat >"$out/$1/$2"
 }
 
-seeds hull "$here"/data/hulls/*.tvh
-head -62 "$here/data/hulls/pram.tvh" | seed hull older.tvh
+for target in hull chain; do
+  seeds $target "$here"/data/hulls/*.tvh
+  head -62 "$here/data/hulls/pram.tvh" | seed $target older.tvh
+done
 
 { printf ' %s \r\n' 1 0 1 0 0 1 0 0 1 1; printf '/home/me/boats\r\n'; } | seed settings hull.dat
 
