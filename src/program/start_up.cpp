@@ -1,6 +1,7 @@
 #include "program/start_up.h"
 
 #include "base/files.h"
+#include "base/platform.h"
 #include "controls/dialogs.h"
 #include "controls/forms.h"
 #include "hull/figures.h"
@@ -14,6 +15,7 @@
 #include "views/repaint.h"
 
 void BindProgram() {
+  SurviveFileSizeLimit();
   ResetForms();
   ResetDialogs();
   SetDataFolder(ShippedDataFolder());

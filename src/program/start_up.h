@@ -2,7 +2,7 @@
 // The start of the program, as far as it needs no window.
 
 /// Every control is as in a fresh program, and every slot has its handler. A face fills its own
-/// slots after this.
+/// slots after this. From now on a file that grows too large is a failed write, not the end of the program.
 void BindProgram();
 
 /// Puts all tables into their start state: the built-in hull with four chines, no file, no figure.

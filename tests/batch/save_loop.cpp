@@ -8,13 +8,11 @@
 #include <string>
 
 #include "base/files.h"
-#include "base/platform.h"
 #include "hull/hull_file.h"
 #include "hull/hull_model.h"
 #include "program/start_up.h"
 
 int main() {
-  SurviveFileSizeLimit();
   StartProgram();
   std::string problem;
   FileFailed = [&problem](const std::filesystem::path&, const std::string& why) { problem = why; };
