@@ -1,23 +1,12 @@
 // Any bytes as a hull file: the reader ends, the tables stay finite, and a saved hull that is opened
 // and saved again keeps its chines and offsets to the letter.
 
-#include <cstdint>
-#include <cstdlib>
-#include <string>
-
-#include "base/text_lines.h"
 #include "controls/forms.h"
+#include "fuzz_program.h"
 #include "hull/hull_file.h"
 #include "hull/hull_model.h"
-#include "program/start_up.h"
 
 namespace {
-
-void Expect(bool holds) {
-  if (!holds) {
-    std::abort();
-  }
-}
 
 /// The count of chines and the offsets of a saved hull.
 std::string OffsetsOf(const std::string& saved) {
@@ -33,9 +22,10 @@ std::string OffsetsOf(const std::string& saved) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  StartProgram();
-  const std::string_view text(reinterpret_cast<const char*>(data), size);
-  LoadHull(WithPoints(text), size % 2 == 0 ? HullReader::FileList : HullReader::StartUp);
+  const FuzzProgram program;
+  WriteTextFile("boat.tvh", TextOf(data, size));
+  NormalizeHullFile("boat.tvh");
+  LoadHullFile("boat.tvh", size % 2 == 0 ? HullReader::FileList : HullReader::StartUp);
   Form1.Refresh();
   Expect(NumChines >= 2 && NumChines <= MostChines);
   for (int c = 1; c <= NumChines; ++c) {
@@ -43,7 +33,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
       Expect(HasValue(HullPts(1, s, c)) && HasValue(HullPts(2, s, c)) && HasValue(HullPts(3, s, c)));
     }
   }
-  const std::string saved = HullText();
+  WriteHullFile("boat.tvh");
+  const std::string saved = ReadOrEmpty("boat.tvh");
   LoadHull(saved, HullReader::StartUp);
   Form1.Refresh();
   Expect(OffsetsOf(HullText()) == OffsetsOf(saved));

@@ -1,10 +1,16 @@
 #pragma once
 // One file replaced by another so that it is never half written: the new text is written beside the
 // old file and moved over it when complete. For base/files alone; everybody else asks that.
+//
+// The new text waits in "NAME.tarve-new1", with a number that no other file has. A run that is killed
+// leaves that file behind, so the first replacement in a folder takes away those of ten minutes ago
+// and more. Their names are the program's own; no other file is touched.
 
 #include <filesystem>
 #include <string>
 #include <string_view>
+
+#include "base/files.h"
 
 /// Why the file at a path may not be written to or deleted; empty if it may, or if there is none.
 /// A file that was made read-only stays as it is for every user, also for one with all rights and
@@ -19,7 +25,7 @@ struct Replacement {
 };
 
 /// Writes the text beside its target. A device takes it as it comes.
-Replacement BeginReplacement(const std::filesystem::path& path, std::string_view text);
+Replacement BeginReplacement(const std::filesystem::path& path, std::string_view text, Worth worth);
 
 /// Moves the text over its target; why it could not be done otherwise. Nothing is beside it after.
 std::string FinishReplacement(Replacement& replacement);

@@ -83,8 +83,8 @@ std::optional<std::string> ReadAll(const fs::path& path) {
   return text;
 }
 
-bool WriteNow(const fs::path& path, std::string_view text) {
-  Replacement replacement = BeginReplacement(path, text);
+bool WriteNow(const fs::path& path, std::string_view text, Worth worth) {
+  Replacement replacement = BeginReplacement(path, text, worth);
   const std::string problem =
       replacement.problem.empty() ? FinishReplacement(replacement) : replacement.problem;
   if (!problem.empty()) {
@@ -107,7 +107,7 @@ void DeleteNow(const fs::path& path) {
 /// What can be told before anything has changed, a full disk above all, goes wrong here.
 bool PrepareAll(const std::vector<HeldChange>& changes, std::vector<Replacement>& prepared) {
   for (const HeldChange& change : changes) {
-    prepared.push_back(change.text ? BeginReplacement(change.path, *change.text)
+    prepared.push_back(change.text ? BeginReplacement(change.path, *change.text, change.worth)
                                    : Replacement{change.path, {}, WhyNotWritable(change.path)});
     if (!prepared.back().problem.empty()) {
       return Fail(change.path, prepared.back().problem);
@@ -198,20 +198,20 @@ std::string ReadOrEmpty(std::string_view name) {
   return ReadTextFile(FindFile(name)).value_or(std::string());
 }
 
-bool WriteTextFile(std::string_view name, std::string_view text) {
+bool WriteTextFile(std::string_view name, std::string_view text, Worth worth) {
   const fs::path existing = FindFile(name);
   const fs::path path = existing.empty() ? WorkingFolder() / fs::path(name) : existing;
   if (IsKept(path)) {
     return false;
   }
   if (held) {
-    held->Hold(path, std::string(text));
+    held->Hold(path, std::string(text), worth);
     return true;
   }
-  return WriteNow(path, text);
+  return WriteNow(path, text, worth);
 }
 
-bool CopyTextFile(std::string_view from, std::string_view to) {
+bool CopyTextFile(std::string_view from, std::string_view to, Worth worth) {
   const fs::path source = FindFile(from);
   const fs::path target = FindFile(to);
   std::error_code failed;
@@ -219,7 +219,7 @@ bool CopyTextFile(std::string_view from, std::string_view to) {
     return false;
   }
   const std::optional<std::string> text = ReadTextFile(source);
-  return text && WriteTextFile(to, *text);
+  return text && WriteTextFile(to, *text, worth);
 }
 
 void DeleteFile(std::string_view name) {
@@ -228,7 +228,7 @@ void DeleteFile(std::string_view name) {
     return;
   }
   if (held) {
-    held->Hold(path, std::nullopt);
+    held->Hold(path, std::nullopt, Worth::MakingAgain);
   } else {
     DeleteNow(path);
   }
@@ -259,7 +259,7 @@ bool HoldBackChanges() {
 void WriteChanges() {
   for (const HeldChange& change : TakeHeld()) {
     if (change.text) {
-      WriteNow(change.path, *change.text);
+      WriteNow(change.path, *change.text, change.worth);
     } else {
       DeleteNow(change.path);
     }

@@ -35,12 +35,18 @@ std::optional<std::string> ReadTextFile(const std::filesystem::path& path);
 /// The bytes of a working file, or an empty text: what a stage makes of a missing file.
 std::string ReadOrEmpty(std::string_view name);
 
+/// What a file is worth when the power goes. A hull is somebody's work: it is written through to the disk
+/// before it takes the place of the old one, so that one of the two is there afterwards. Patterns, tables
+/// and exports are made again in a moment, and a run writes up to a hundred of them; waiting for the
+/// disk each time would take longer than all the rest.
+enum class Worth { MakingAgain, Keeping };
+
 /// Creates or replaces a file. A file that can't be written to stays as it is. False if the file
 /// was not written.
-bool WriteTextFile(std::string_view name, std::string_view text);
+bool WriteTextFile(std::string_view name, std::string_view text, Worth worth = Worth::MakingAgain);
 
 /// Copies a file's bytes over another; copying a file over itself, or a missing file, does nothing.
-bool CopyTextFile(std::string_view from, std::string_view to);
+bool CopyTextFile(std::string_view from, std::string_view to, Worth worth = Worth::MakingAgain);
 
 /// Deletes a working file if it is there. A file that can't be written to stays.
 void DeleteFile(std::string_view name);

@@ -24,7 +24,7 @@ const HeldChange* HeldChanges::Find(const fs::path& path) const {
   return place == places_.end() ? nullptr : &changes_[place->second];
 }
 
-void HeldChanges::Hold(const fs::path& path, std::optional<std::string> text) {
+void HeldChanges::Hold(const fs::path& path, std::optional<std::string> text, Worth worth) {
   const std::string name = path.filename().string();
   Names& names = NamesOf(path.parent_path());
   std::erase_if(names, [&name](const auto& known) { return known.second == name; });
@@ -33,9 +33,10 @@ void HeldChanges::Hold(const fs::path& path, std::optional<std::string> text) {
   }
   const auto [place, is_new] = places_.try_emplace(path.string(), changes_.size());
   if (is_new) {
-    changes_.push_back({path, std::move(text)});
+    changes_.push_back({path, std::move(text), worth});
   } else {
     changes_[place->second].text = std::move(text);
+    changes_[place->second].worth = worth;
   }
 }
 

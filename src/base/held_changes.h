@@ -10,10 +10,13 @@
 #include <unordered_map>
 #include <vector>
 
+#include "base/files.h"
+
 /// A change of one file: its new text, or none for a file that is to be deleted.
 struct HeldChange {
   std::filesystem::path path;
   std::optional<std::string> text;
+  Worth worth;
 };
 
 class HeldChanges {
@@ -24,7 +27,7 @@ class HeldChanges {
   /// The change of a file, or nullptr.
   const HeldChange* Find(const std::filesystem::path& path) const;
 
-  void Hold(const std::filesystem::path& path, std::optional<std::string> text);
+  void Hold(const std::filesystem::path& path, std::optional<std::string> text, Worth worth);
 
   /// The file of this name, letter case aside, with the changes taken as done; empty if there is
   /// none. A folder is read from disk once, at the first question about it.

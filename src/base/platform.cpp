@@ -1,6 +1,7 @@
 #include "base/platform.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <csignal>
 #include <cstdlib>
 #include <system_error>
@@ -38,6 +39,10 @@ fs::path SharedCalibrationFile() {
   return "c:\\qvxp.dat";
 }
 
+bool FlushToDisk(std::FILE* file) {
+  return std::fflush(file) == 0 && _commit(_fileno(file)) == 0;
+}
+
 bool StandardErrorIsTerminal() {
   return _isatty(2) != 0;
 }
@@ -67,6 +72,14 @@ fs::path SharedCalibrationFile() {
   }
   const char* const home = std::getenv("HOME");
   return home == nullptr ? fs::path() : fs::path(home) / ".config" / "tarve" / "qvxp.dat";
+}
+
+bool FlushToDisk(std::FILE* file) {
+  if (std::fflush(file) != 0) {
+    return false;
+  }
+  const bool flushed = fsync(fileno(file)) == 0;
+  return flushed || errno == EINVAL || errno == ENOSYS || errno == ENOTSUP;  // a disk that never waits
 }
 
 bool StandardErrorIsTerminal() {

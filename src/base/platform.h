@@ -1,6 +1,7 @@
 #pragma once
 // What differs from one operating system to the next, and nothing else.
 
+#include <cstdio>
 #include <filesystem>
 #include <string>
 
@@ -23,6 +24,9 @@ std::filesystem::path SharedCalibrationFile();
 
 /// Lets a write beyond the limit for file sizes fail instead of ending the program.
 void SurviveFileSizeLimit();
+
+/// Waits until what was written to the file has reached the disk. False, with errno set, if it can't.
+bool FlushToDisk(std::FILE* file);
 
 /// Whether a person reads the standard error stream as it comes.
 bool StandardErrorIsTerminal();

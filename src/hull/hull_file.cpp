@@ -195,7 +195,7 @@ void NormalizeHullFile(std::string_view path) {
   if (text) {
     const std::string changed = WithPoints(*text);
     WriteTextFile("temp.txt", changed);
-    WriteTextFile(path, changed);
+    WriteTextFile(path, changed, Worth::Keeping);
   }
 }
 
@@ -218,7 +218,7 @@ void LoadHull(std::string_view text, HullReader reader) {
 }
 
 void WriteHullFile(std::string_view path) {
-  WriteTextFile(path, HullText());
+  WriteTextFile(path, HullText(), Worth::Keeping);
 }
 
 std::string HullText() {

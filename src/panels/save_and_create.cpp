@@ -59,7 +59,7 @@ void SaveAndCreate() {
     CreatePatterns();
   }
   WriteHullFile(HullFileName);
-  CopyTextFile(HullFileName, "default.tvh");
+  CopyTextFile(HullFileName, "default.tvh", Worth::Keeping);
   if (by_ourselves) {
     WriteChanges();
   }

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "base/files.h"
+#include "base/platform.h"
 #include "controls/dialogs.h"
 #include "controls/forms.h"
 #include "hull/figures.h"
@@ -31,6 +32,7 @@ void ShowWorkingFolder() {
 }  // namespace
 
 void ResetProgram() {
+  SurviveFileSizeLimit();
   ResetForms();
   ResetDialogs();
   SetDataFolder(ShippedDataFolder());

@@ -2,7 +2,8 @@
 // The start of the program, as far as it needs no window.
 
 /// Every control is as in a fresh program and every slot has its handler, no figure is chosen, and the
-/// lists of files show the working folder. A face fills its own slots after this.
+/// lists of files show the working folder. From now on a file that grows too large is a failed write and
+/// not the end of the program. A face fills its own slots after this.
 void ResetProgram();
 
 /// Puts the tables into their start state: the built-in hull with four chines, no results, no zoom.

@@ -1,5 +1,7 @@
 #include "base/files.h"
 
+#include <chrono>
+
 #include "support/program_test.h"
 
 namespace fs = std::filesystem;
@@ -64,6 +66,21 @@ TEST_F(Files, AFullDiskCostsNothing) {
   FileFailed = nullptr;
   EXPECT_FALSE(why.empty());
   EXPECT_EQ(Names(), std::vector<std::string>{"full.txt"}) << "nothing half written is left";
+}
+
+TEST_F(Files, WhatAKilledRunLeftIsTakenAwayAndNothingElse) {
+  const auto an_hour_ago = fs::file_time_type::clock::now() - std::chrono::hours(1);
+  for (const char* name :
+       {"boat.tvh.tarve-new7", "boat.tvh.tarve-new", "boat.tvh.tarve-new7x", "boat.tvh.new7"}) {
+    Write(name, "half");
+    fs::last_write_time(folder / name, an_hour_ago);
+  }
+  fs::create_symlink("elsewhere.tarve-new8", folder / "link.tarve-new8");
+  Write("boat.tvh.tarve-new9", "a save that another program makes right now");
+  EXPECT_TRUE(WriteTextFile("boat.tvh", "whole"));
+  EXPECT_EQ(Names(),
+            (std::vector<std::string>{"boat.tvh", "boat.tvh.new7", "boat.tvh.tarve-new",
+                                      "boat.tvh.tarve-new7x", "boat.tvh.tarve-new9", "link.tarve-new8"}));
 }
 
 TEST_F(Files, ALinkStaysALinkAndItsFileIsReplaced) {

@@ -118,6 +118,20 @@ TEST_F(SaveAndCreateTest, NamesAreNormalised) {
   }
 }
 
+TEST_F(SaveAndCreateTest, TheNameOfAStrangersFileLeadsNowhere) {
+  Form3.Check1.Value = false;
+  std::filesystem::create_directory(folder / "a");
+  for (const char* name : {"..\\..\\evil.tvh", "..\\evil", "a\\..\\..\\evil.tvh"}) {
+    HullFileName = (folder / name).string();  // a file of this name lies in the folder and was chosen
+    Dummy4_Click();
+    Form3.Command1.Click();
+    const std::filesystem::path saved(HullFileName);
+    EXPECT_TRUE(std::filesystem::exists(saved)) << saved;
+    EXPECT_EQ(saved.lexically_normal(), saved) << "no step up";
+    EXPECT_TRUE(HullFileName.starts_with(folder.string())) << saved;
+  }
+}
+
 TEST_F(SaveAndCreateTest, BoxesReachTheTables) {
   Form3.Text6.Text = "exports";
   EXPECT_EQ(ExportPath,
