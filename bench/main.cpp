@@ -25,6 +25,8 @@ constexpr Ratio Ratios[] = {
     {"whole chain / plain write", "WholeChain", "ChainPlainWrite", 5},
     {"hydrostatic pass / plain write", "HydroPass", "HydroPlainWrite", 1.5},
     {"DXF export / plain write", "DxfExport", "DxfPlainWrite", 8},
+    {"drag step / painter's lines", "DragStep", "DragLines/Cleared", 1.3},
+    {"drag step / painter's lines, uncleared", "DragStep", "DragLines/Only", 1.3},
     {"DXF export / r12writer", "DxfExport", "DxfR12Writer", 0.25},
 };
 

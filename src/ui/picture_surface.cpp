@@ -77,19 +77,25 @@ QPainter& PictureSurface::Painter(int colour) {
   if (!painter_.isActive()) {
     painter_.begin(&buffer_);
     painter_.setFont(font());
-    pen_colour_ = -2;
+    new_modes_ = true;
     update();
+  }
+  if (new_modes_) {
+    const bool copy = mode_ == Mode::Copy;
+    painter_.setRenderHint(QPainter::Antialiasing, smooth_ && copy);
+    painter_.setCompositionMode(copy ? QPainter::CompositionMode_SourceOver
+                                     : QPainter::RasterOp_SourceXorDestination);
+    new_modes_ = false;
+    pen_colour_ = NoPen;
   }
   if (colour != pen_colour_) {
     DrawLines();
     pen_colour_ = colour;
-    // Exclusive-or with white must give the colour's complement, as it does on the screen's bits.
     QPen pen(PaletteColour(colour), pen_width_);
-    pen.setCapStyle(pen_width_ > 1 ? Qt::FlatCap : Qt::SquareCap);
+    if (pen_width_ > 1) {
+      pen.setCapStyle(Qt::FlatCap);  // a thick line ends where it ends
+    }
     painter_.setPen(pen);
-    painter_.setRenderHint(QPainter::Antialiasing, smooth_ && mode_ == Mode::Copy);
-    painter_.setCompositionMode(mode_ == Mode::Copy ? QPainter::CompositionMode_SourceOver
-                                                    : QPainter::RasterOp_SourceXorDestination);
   }
   return painter_;
 }
@@ -224,19 +230,19 @@ void PictureSurface::Print(std::string_view text, int colour) {
 void PictureSurface::DrawWidth(int pixels) {
   DrawLines();
   pen_width_ = pixels;
-  pen_colour_ = -2;
+  new_modes_ = true;
 }
 
 void PictureSurface::DrawMode(Mode mode) {
   DrawLines();
   mode_ = mode;
-  pen_colour_ = -2;
+  new_modes_ = true;
 }
 
 void PictureSurface::Smooth(bool on) {
   DrawLines();
   smooth_ = on;
-  pen_colour_ = -2;
+  new_modes_ = true;
 }
 
 double PictureSurface::TextWidth(std::string_view text) const {

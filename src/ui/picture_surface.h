@@ -34,6 +34,9 @@ class PictureSurface : public QWidget, public DrawSurface {
   double ScaleLeft() const override { return left_; }
   double ScaleWidth() const override { return right_ - left_; }
 
+  /// Draws what waits together and gives the buffer free for showing, as a showing does by itself.
+  void Finish();
+
   /// Called after the buffer was made anew, empty and in another size.
   std::function<void()> Resized;
   /// Puts what was drawn on the screen now, also in the middle of a handler.
@@ -51,16 +54,16 @@ class PictureSurface : public QWidget, public DrawSurface {
   void MakeBuffer();
   QPainter& Painter(int colour);
   void DrawLines();
-  /// Draws what waits and gives the buffer free for showing.
-  void Finish();
   QPointF Pixel(double x, double y) const;
   void Pass(const Event<int, double, double>& to, int button, QPointF at) const;
 
   PictureBox& picture_;
   QImage buffer_;
   QPainter painter_;
-  std::vector<QLineF> lines_;  ///< of one pen, waiting to be drawn together
-  int pen_colour_ = -2;
+  std::vector<QLineF> lines_;       ///< of one pen, waiting to be drawn together
+  static constexpr int NoPen = -2;  ///< unlike any colour
+  int pen_colour_ = NoPen;
+  bool new_modes_ = true;  ///< the painter doesn't have width, mode or smoothing yet
   int pen_width_ = 1;
   Mode mode_ = Mode::Copy;
   bool smooth_ = false;
