@@ -41,3 +41,8 @@ head -12 "$here/data/pedit.fnt" | seed font short.fnt
 printf '500, 500\r\n' | seed calibration usual.dat
 printf -- '-1016 1016\n' | seed calibration blank.dat
 printf '0\r\n1E3\r\n' | seed calibration lines.dat
+
+head -120 "$scratch/handplot.txt" | seed nest handplot.txt
+printf 'boat.tvh\r\nA.uc __\r\n0.00  1.5\r\n-3 4\r\n\r\n' | seed nest short.txt
+seeds figures "$here/data/persons.fig"
+printf 'start\r\nAnn\r\n0 0\r\n3.5 -4\r\nend\r\nstart\r\nBob\r\n1 67\r\n' | seed figures short.fig

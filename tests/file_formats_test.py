@@ -36,7 +36,7 @@ def main():
     page = PAGE.read_text()
     commands = re.findall(r"^    tarve-batch (.*)$", page, re.M)
     examples = re.findall(r"^```text (\S+)\n(.*?)^```$", page, re.M | re.S)
-    if len(commands) != 2 or len(examples) < 9:
+    if len(commands) != 3 or len(examples) < 11:
         sys.exit("the page has lost its commands or its examples")
     faults = []
     with tempfile.TemporaryDirectory() as folder:
