@@ -35,9 +35,10 @@ def cpu_ticks(pid):
 
 def start(command, title, environment, folder):
     begin = time.perf_counter()
-    process = subprocess.Popen([command], cwd=folder, env=environment, stderr=subprocess.DEVNULL)
+    process = subprocess.Popen([command], cwd=folder, env=environment)
     while not visible(environment, title):
-        pass
+        if process.poll() is not None:
+            raise SystemExit(f"{command} ended with {process.returncode}")
     took = time.perf_counter() - begin
     time.sleep(0.3)
     return process, took, memory(process.pid)
