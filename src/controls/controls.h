@@ -179,6 +179,8 @@ class PictureBox {
 
   /// Fires the paint handler at once.
   Event<> Refresh;
+  /// The face's slot: what was drawn goes to the screen now, in the middle of a long handler.
+  Event<> ShowNow;
   Event<> Click;
   Event<> DblClick;
   Event<int, double, double> MouseDown;
@@ -199,6 +201,13 @@ struct Window {
 
   Property<std::string> Caption;
   Property<bool> Visible;
+  /// The face's slot: before all others on the screen, also if the user made it small.
+  Event<> ToFront;
+  /// Shows the window, or brings the one that is open to the front.
+  void Open() {
+    Visible = true;
+    ToFront();
+  }
   /// Whether the window holds its contents: from its first use until its Unload.
   bool Loaded = false;
   /// The face's slot: moves the window on the screen.

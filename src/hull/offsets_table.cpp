@@ -114,7 +114,7 @@ void dummy8_Click() {
   if (!Form5.Loaded) {
     Form5_Load();
   }
-  Form5.Visible = true;
+  Form5.Open();
 }
 
 void Form5_Load() {
@@ -140,7 +140,8 @@ double EnteredInches(std::string_view text) {
   if (dash == std::string_view::npos) {
     return NumberOf(text);
   }
-  double inches = NumberOf(text.substr(0, dash + 1)) + NumberOf(text.substr(dash + 1)) / 8;
+  double inches = 0;  // what a number too large leaves
+  Store(inches, NumberOf(text.substr(0, dash + 1)) + NumberOf(text.substr(dash + 1)) / 8);
   if (text.back() == '+') {
     inches += Sixteenth;
   } else if (text.back() == '-') {
@@ -156,7 +157,8 @@ void Form5_Text1_Change() {
   const int c = grid.Row() - k * NumChines;
   double inches = 0;  // what an entry too large for a number leaves
   Store(inches, EnteredInches(typed));
-  if (!typed.empty()) {
+  const bool fixed = grid.Row() == 0 || grid.Col() < XColumn;
+  if (!typed.empty() && !fixed) {
     grid.SetText(grid.Row(), grid.Col(), PlainText(inches));
   }
   StoreOffset(grid.Col(), c, k, NumberOf(grid.Text(grid.Row(), grid.Col())));

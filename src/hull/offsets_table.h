@@ -23,7 +23,7 @@ void Form5_Unload();
 void Form5_Grid1_Click();
 
 /// Puts the number in the box into the cell and the cell's into the offset. Z of bulkheads 1 to 3
-/// goes to chines 1 to 6, always these six.
+/// goes to chines 1 to 6, always these six. Headings and labels are fixed: they stay.
 void Form5_Text1_Change();
 
 /// Enter opens the cell below.

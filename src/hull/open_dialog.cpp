@@ -1,5 +1,6 @@
 #include "hull/open_dialog.h"
 
+#include "base/files.h"
 #include "base/number_text.h"
 #include "base/skipped_statement.h"
 #include "controls/forms.h"
@@ -24,7 +25,8 @@ void Form4_QueryUnload(bool& refuse) {
 }
 
 void Form4_File1_Click() {
-  if (Form4.File1.FileName->empty()) {
+  // A file that went away since the list was read is no choice: opening it would empty the hull.
+  if (Form4.File1.FileName->empty() || FindFile(ChosenPath(Form4.Dir1, Form4.File1)).empty()) {
     return;
   }
   HullFileName = ChosenPath(Form4.Dir1, Form4.File1);

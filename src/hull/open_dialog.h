@@ -13,7 +13,7 @@ void Form4_Load();
 void Form4_QueryUnload(bool& refuse);
 
 /// Opens the chosen file at once: sets HullFileName and reads the file, which is rewritten with
-/// points for commas. Nothing without a chosen file.
+/// points for commas. Nothing without a chosen file, or if it is there no more.
 void Form4_File1_Click();
 void Form4_Dir1_Change();
 void Form4_Drive1_Change();

@@ -31,6 +31,6 @@ void dummy2_Click() {
   PitchAngle = 0;
   ApplyPitch();
   HideResults();
-  Form4.Visible = true;
+  Form4.Open();
   Form4.File1.Refresh();
 }

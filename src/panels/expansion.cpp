@@ -113,6 +113,7 @@ void DrawPreview(const FlatPanel& panel, double divisor) {
     line(panel.C[i], panel.D[i]);
     line(panel.D[i], panel.A[i]);
   }
+  Form1.Picture2.ShowNow();
 }
 
 void PutHead(std::string& out) {

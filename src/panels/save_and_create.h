@@ -4,8 +4,7 @@
 /// With Form3's Check1 on: triangle files, flat parts, hull drawing, developed panels, leveling,
 /// hand plotting table, and HPGL and DXF if asked for; then, in any case, the hull file and its copy
 /// "default.tvh". Exports go to ExportPath, the hull drawing beside the hull file, all else to the
-/// working folder. No stage stops the
-/// chain; progress is told in panel 1.
+/// working folder. No stage stops the chain; progress is told in panel 1.
 void SaveAndCreate();
 
 /// The menu item "Clear old patterns": deletes the pattern files and the hand plotting table of the

@@ -171,7 +171,8 @@ void ReadSaveSettings() {
   std::string_view item;
   for (CheckBox* box : SettingsBoxes()) {
     if (in.ReadItem(item)) {
-      box->Value = NumberOf(item) != 0;
+      const double number = NumberOf(item);
+      box->Value = HasValue(number) ? number != 0 : *box->Value;
     }
   }
   if (in.ReadItem(item)) {

@@ -36,9 +36,9 @@ class EnterPresses : public QObject {
 
   bool eventFilter(QObject* button, QEvent* event) override {
     if (event->type() == QEvent::KeyPress) {
-      const int key = static_cast<QKeyEvent*>(event)->key();
-      if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-        static_cast<QAbstractButton*>(button)->animateClick();
+      const auto* pressed = static_cast<QKeyEvent*>(event);
+      if ((pressed->key() == Qt::Key_Return || pressed->key() == Qt::Key_Enter) && !pressed->isAutoRepeat()) {
+        static_cast<QAbstractButton*>(button)->click();
         return true;
       }
     }
@@ -138,7 +138,11 @@ void Face(CommandButton& control, QAbstractButton* widget) {
   control.Caption.Show = show;
   show();
   QObject::connect(widget, &QAbstractButton::clicked, widget, [&control] { control.Click(); });
-  new EnterPresses(widget);
+  PressWithEnter(widget);
+}
+
+void PressWithEnter(QAbstractButton* button) {
+  new EnterPresses(button);
 }
 
 void Face(ComboBox& control, QComboBox* widget) {

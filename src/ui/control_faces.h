@@ -36,6 +36,9 @@ class SpinButtons : public QWidget {
   QToolButton* AddArrow(Qt::ArrowType arrow, const QString& name, int y);
 };
 
+/// Enter presses the button when it has the keyboard, as the space bar does.
+void PressWithEnter(QAbstractButton* button);
+
 /// Each click on a row, and Enter or the space bar on the current one.
 void OnChoice(QListWidget* list, std::function<void(const QListWidgetItem*)> choose);
 

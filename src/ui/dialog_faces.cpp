@@ -12,11 +12,24 @@ namespace {
 
 constexpr const char* ProgramTitle = "Tarve Designer";
 
+/// The window that a box belongs to. A box without one could come up behind the others.
+QWidget* Owner() {
+  QWidget* active = QApplication::activeWindow();
+  if (active != nullptr) {
+    return active;
+  }
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->isVisible() && window->parentWidget() == nullptr) {
+      return window;
+    }
+  }
+  return nullptr;
+}
+
 std::string AskForText(const std::string& prompt, const std::string& title, const std::string& offered) {
   bool accepted = false;
-  const QString text =
-      QInputDialog::getText(QApplication::activeWindow(), Shown(title.empty() ? ProgramTitle : title),
-                            Shown(prompt), QLineEdit::Normal, Shown(offered), &accepted);
+  const QString text = QInputDialog::getText(Owner(), Shown(title.empty() ? ProgramTitle : title),
+                                             Shown(prompt), QLineEdit::Normal, Shown(offered), &accepted);
   return accepted ? Entered(text) : std::string();
 }
 
@@ -50,7 +63,7 @@ QMessageBox::Icon Icon(int style) {
 
 Answer Tell(const std::string& text, int style, const std::string& title) {
   QMessageBox box(Icon(style), Shown(title.empty() ? ProgramTitle : title), Shown(text), Buttons(style),
-                  QApplication::activeWindow());
+                  Owner());
   box.setTextFormat(Qt::PlainText);  // a file's name is never taken for markup
   switch (box.exec()) {
     case QMessageBox::Yes:

@@ -72,6 +72,10 @@ void Face(DirListBox& control, QListWidget* widget) {
 
 void Face(DriveListBox& control, QComboBox* widget) {
   widget->addItems(Places());
-  QObject::connect(widget, &QComboBox::textActivated, widget,
-                   [&control](const QString& place) { control.Drive = Entered(place); });
+  QObject::connect(widget, &QComboBox::textActivated, widget, [&control](const QString& place) {
+    if (*control.Drive == Entered(place)) {
+      control.Change();  // back to the root of the place that was chosen before
+    }
+    control.Drive = Entered(place);
+  });
 }

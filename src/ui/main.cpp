@@ -4,6 +4,8 @@
 #include <QDir>
 #include <QIcon>
 #include <QStandardPaths>
+#include <QTimer>
+#include <optional>
 
 #include "base/files.h"
 #include "controls/forms.h"
@@ -40,6 +42,13 @@ void ChooseWorkingFolder() {
   }
 }
 
+struct OtherWindows {
+  explicit OtherWindows(QWidget* main) : save(main), offsets(main) {}
+  SaveWindowWidget save;
+  OffsetsWindowWidget offsets;
+  NestingWindowWidget nesting;
+};
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -52,17 +61,14 @@ int main(int argc, char** argv) {
   ResetProgram();
   ShowDialogsWithQt();
   MainWindowWidget window;
-  OpenWindowWidget open(&window);
-  const SaveWindowWidget save(&window);
-  const OffsetsWindowWidget offsets(&window);
-  const NestingWindowWidget nesting;
+  const OpenWindowWidget open(&window);
+  std::optional<OtherWindows> others;
+  QTimer::singleShot(0, &window, [&] { others.emplace(&window); });  // once the main window shows
   bool ended = false;
   Form1.Unload = [&ended] {
     ended = true;
     QApplication::exit(0);
   };
-  open.setAttribute(Qt::WA_DontShowOnScreen);  // it is loaded and hidden before anything shows
   Form_Load();
-  open.setAttribute(Qt::WA_DontShowOnScreen, false);
   return ended ? 0 : QApplication::exec();
 }

@@ -46,6 +46,8 @@ class LogoButton : public QPushButton {
 }  // namespace
 
 MainWindowWidget::MainWindowWidget() {
+  refresh_.setSingleShot(true);  // one repaint for all thumbnails
+  connect(&refresh_, &QTimer::timeout, this, [] { Form1.Refresh(); });
   BuildMenus();
   BuildPicture();
   BuildStatusBar();
@@ -125,7 +127,7 @@ void MainWindowWidget::AddThumbnails(QBoxLayout* row) {
     surface->setCursor(Qt::PointingHandCursor);
     const QString tool_tip = QString("Click to edit %1 view").arg(views[i]);
     Describe(surface, tool_tip, tool_tip);
-    surface->Resized = [] { QTimer::singleShot(0, [] { Form1.Refresh(); }); };
+    surface->Resized = [this] { refresh_.start(); };
     frames_[i] = FramedThumbnail(surface);
     row->addWidget(frames_[i], 1);
   }
@@ -136,6 +138,7 @@ void MainWindowWidget::AddThumbnails(QBoxLayout* row) {
   logo->setFocusPolicy(Qt::TabFocus);
   Describe(logo, "Spin view", "Click to see the hull in space");
   connect(logo, &QPushButton::clicked, this, [] { Form1.Picture3.Click(); });
+  PressWithEnter(logo);
   frames_[3] = FramedThumbnail(logo);
   row->addWidget(frames_[3], 1);
 }
@@ -231,11 +234,10 @@ void MainWindowWidget::BuildStatusBar() {
     }
     statusBar()->addWidget(panel, i == 1 ? 1 : 0);
     Property<std::string>& text = Form1.StatusBar1.Panels[i];
-    text.Show = [this, panel, &text, i] {
+    text.Show = [panel, &text, i] {
       panel->setText(Shown(text));
-      if (i == 1) {  // what a long handler is doing, and has drawn so far, shows while it works
+      if (i == 1) {  // what a long handler is doing shows while it works
         panel->repaint();
-        picture_->ShowNow();
       }
     };
     text.Show();

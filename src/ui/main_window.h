@@ -2,6 +2,7 @@
 // The face of Form1, the main window: menus, thumbnails, boxes, the main picture, the status bar.
 
 #include <QMainWindow>
+#include <QTimer>
 #include <array>
 #include <vector>
 
@@ -35,4 +36,5 @@ class MainWindowWidget : public QMainWindow {
   std::vector<std::pair<MenuItem*, QAction*>> actions_;
   std::array<QFrame*, 4> frames_{};  ///< around section, profile, plan, true view
   PictureSurface* picture_ = nullptr;
+  QTimer refresh_;
 };

@@ -91,8 +91,8 @@ QBoxLayout* NestingWindowWidget::BuildSheetRow() {
   }
   row->addWidget(NewCheck(Form2.Check1, "A mark that is kept with the hull"));
   row->addStretch(1);
-  row->addWidget(NewArrow(Form2.Image3, Qt::LeftArrow, "Slide to the first sheets"));
-  row->addWidget(NewArrow(Form2.Image4, Qt::RightArrow, "Slide to the last sheets"));
+  row->addWidget(NewArrow(Form2.Image4, Qt::LeftArrow, "Slide the picture to the left"));
+  row->addWidget(NewArrow(Form2.Image3, Qt::RightArrow, "Slide the picture to the right"));
   row->addWidget(NewButton(Form2.Command7, "View of the sheets", 10, "The next view of the sheets"));
   return row;
 }
@@ -104,6 +104,7 @@ QBoxLayout* NestingWindowWidget::BuildPicture() {
   opening_->installEventFilter(this);
   picture_ = new PictureSurface(Form2.Picture1, opening_);
   Describe(picture_, "Sheets with parts");
+  picture_->HoldsPointer = true;  // a part that is dropped outside would be out of sight for good
   picture_->Resized = [] { Form2.Picture1.Refresh(); };
   Form2.Picture1.Left.Show = Form2.Picture1.Width.Show = [this] { PlacePicture(); };
   row->addWidget(Framed(opening_), 1);

@@ -16,6 +16,15 @@
 namespace {
 
 constexpr double TwipsPerPixel = 15;
+constexpr int FixedColumns = 2;
+
+/// The headings and the labels are fixed: they don't open.
+void OpenCell(int row, int column) {
+  if (row > 0 && column >= FixedColumns) {
+    Form5.Grid1.Select(row, column);
+    Form5.Grid1.Click();
+  }
+}
 
 }  // namespace
 
@@ -43,6 +52,7 @@ OffsetsWindowWidget::OffsetsWindowWidget(QWidget* parent)
   Describe(box_, "Offset", "Inches; 5-4 is 5 4/8, one more + or - is a sixteenth");
   box_->setFrame(false);
   box_->installEventFilter(this);
+  table_->installEventFilter(this);
 
   // The grid is filled cell by cell; the screen needs it once.
   Form5.Grid1.Show = [this] {
@@ -54,11 +64,8 @@ OffsetsWindowWidget::OffsetsWindowWidget(QWidget* parent)
   Form5.Text1.Visible.Show = Form5.Text1.Box.Show = [this] { ShowBox(); };
   Form5.Text1.BringToFront = [this] { box_->raise(); };
   Form5.Text1.SelectAll = [this] { box_->selectAll(); };
-  connect(table_, &QTableWidget::cellClicked, this, [](int row, int at) {
-    Form5.Grid1.Select(row, at);
-    Form5.Grid1.Click();
-  });
-  connect(table_->verticalScrollBar(), &QScrollBar::valueChanged, this, [this] { ShowBox(); });
+  connect(table_, &QTableWidget::cellClicked, this, OpenCell);
+  connect(table_->verticalScrollBar(), &QScrollBar::valueChanged, this, [this] { PlaceBox(); });
   new WindowFace(Form5, this);
   ShowGrid();
   ShowBox();
@@ -74,8 +81,9 @@ void OffsetsWindowWidget::ShowGrid() {
       QTableWidgetItem* item = table_->item(row, at);
       if (item == nullptr) {
         item = new QTableWidgetItem;
-        item->setTextAlignment(at < 2 ? Qt::AlignLeft | Qt::AlignVCenter : Qt::AlignRight | Qt::AlignVCenter);
-        if (row == 0 || at < 2) {
+        item->setTextAlignment(at < FixedColumns ? Qt::AlignLeft | Qt::AlignVCenter
+                                                 : Qt::AlignRight | Qt::AlignVCenter);
+        if (row == 0 || at < FixedColumns) {
           item->setBackground(palette().alternateBase());
         }
         table_->setItem(row, at, item);
@@ -96,15 +104,25 @@ void OffsetsWindowWidget::ShowBox() {
   if (changed_) {
     ShowGrid();
   }
-  const QModelIndex cell = table_->model()->index(Form5.Grid1.Row(), Form5.Grid1.Col());
   if (Form5.Text1.Visible) {
-    table_->scrollTo(cell);
+    table_->scrollTo(table_->model()->index(Form5.Grid1.Row(), Form5.Grid1.Col()));
   }
-  box_->setGeometry(table_->visualRect(cell));
+  PlaceBox();
   box_->setVisible(Form5.Text1.Visible);
 }
 
+void OffsetsWindowWidget::PlaceBox() {
+  box_->setGeometry(table_->visualRect(table_->model()->index(Form5.Grid1.Row(), Form5.Grid1.Col())));
+}
+
 bool OffsetsWindowWidget::eventFilter(QObject* target, QEvent* event) {
+  if (target == table_ && event->type() == QEvent::KeyPress) {
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_F2) {
+      OpenCell(table_->currentRow(), table_->currentColumn());
+      return true;
+    }
+  }
   if (target == box_ && event->type() == QEvent::KeyPress && LeavesByTab(event)) {
     return true;
   }

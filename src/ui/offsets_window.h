@@ -14,7 +14,9 @@ class OffsetsWindowWidget : public QWidget {
 
  private:
   void ShowGrid();
+  /// Brings the cell into sight and the box over it.
   void ShowBox();
+  void PlaceBox();
   bool LeavesByTab(QEvent* event);
 
   QTableWidget* table_;

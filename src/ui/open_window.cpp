@@ -4,6 +4,7 @@
 #include <QBoxLayout>
 #include <QFormLayout>
 #include <QGridLayout>
+#include <QTimer>
 
 #include "controls/forms.h"
 #include "ui/control_faces.h"
@@ -46,6 +47,9 @@ OpenWindowWidget::OpenWindowWidget(QWidget* parent) : QWidget(parent, Qt::Window
   columns->addLayout(numbers);
   MarkFigure();
   new WindowFace(Form4, this);
+  // The window is loaded and hidden again before the program is there: it has no turn to flash.
+  const auto show = Form4.Visible.Show;
+  Form4.Visible.Show = [this, show] { QTimer::singleShot(0, this, show); };
   ResizeToScreen(this, {900, 470});
 }
 
@@ -83,7 +87,7 @@ QWidget* OpenWindowWidget::BuildFigures() {
   grid->setSpacing(Gap);
   for (std::size_t i = 0; i < Form4.Picture2.size(); ++i) {
     auto* surface = new PictureSurface(Form4.Picture2[i], nullptr);
-    surface->setFixedSize(FigureSize, FigureSize);
+    surface->FixSize({FigureSize, FigureSize});
     surface->setCursor(Qt::PointingHandCursor);
     Describe(surface, QString("Figure %1").arg(i + 1),
              "A click puts the figure into the drawing, or takes it out");
@@ -141,7 +145,7 @@ QWidget* OpenWindowWidget::BuildRig() {
 
 QWidget* OpenWindowWidget::BuildBallast() {
   const LabelledBox rows[] = {
-      {Form4.WeightLabel, Form4.Text11, "Pounds; it counts in the righting moment"},
+      {Form4.WeightLabel, Form4.Text11, "Pounds; shown with the righting moment, and kept with the hull"},
       {Form4.StationLabel, Form4.Text12, "Inches; kept with the hull"},
       {Form4.HeightLabel, Form4.Text13, "Inches; kept with the hull"},
   };

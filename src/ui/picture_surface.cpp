@@ -3,8 +3,10 @@
 #include <QFontMetricsF>
 #include <QMouseEvent>
 #include <QTimer>
+#include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <utility>
 
 #include "ui/palette.h"
 
@@ -57,15 +59,31 @@ PictureSurface::PictureSurface(PictureBox& picture, QWidget* parent) : QWidget(p
   setFocusPolicy(Qt::NoFocus);
   MakeBuffer();
   picture = this;
+  picture.ShowNow = [this] { repaint(); };
 }
 
-void PictureSurface::MakeBuffer() {
+bool PictureSurface::MakeBuffer() {
   Finish();
   const double ratio = devicePixelRatioF();
-  buffer_ = QImage(std::max(1, static_cast<int>(std::ceil(width() * ratio))),
-                   std::max(1, static_cast<int>(std::ceil(height() * ratio))), QImage::Format_RGB32);
-  buffer_.setDevicePixelRatio(ratio);
-  buffer_.fill(Qt::white);
+  const QSize pixels(std::max(1, static_cast<int>(std::ceil(width() * ratio))),
+                     std::max(1, static_cast<int>(std::ceil(height() * ratio))));
+  if (buffer_.size() == pixels && buffer_.devicePixelRatio() == ratio) {
+    return false;
+  }
+  QImage buffer(pixels, QImage::Format_RGB32);
+  buffer.setDevicePixelRatio(ratio);
+  buffer.fill(Qt::white);
+  if (!buffer_.isNull()) {  // stays to be seen until somebody draws it anew
+    QPainter(&buffer).drawImage(QRectF(rect()), buffer_);
+  }
+  buffer_ = buffer;
+  return true;
+}
+
+void PictureSurface::FixSize(QSize size) {
+  setFixedSize(size);
+  resize(size);
+  MakeBuffer();
 }
 
 QPointF PictureSurface::Pixel(double x, double y) const {
@@ -91,7 +109,10 @@ QPainter& PictureSurface::Painter(int colour) {
   if (colour != pen_colour_) {
     DrawLines();
     pen_colour_ = colour;
-    QPen pen(PaletteColour(colour), pen_width_);
+    // Whole pixels of the screen, also where it has one and a half of them to a unit.
+    const double pixels = std::max(1.0, std::round(pen_width_ * buffer_.devicePixelRatio()));
+    QPen pen(PaletteColour(colour), pixels);
+    pen.setCosmetic(true);
     if (pen_width_ > 1) {
       pen.setCapStyle(Qt::FlatCap);  // a thick line ends where it ends
     }
@@ -112,10 +133,6 @@ void PictureSurface::Finish() {
     DrawLines();
     painter_.end();
   }
-}
-
-void PictureSurface::ShowNow() {
-  repaint();
 }
 
 void PictureSurface::Cls() {
@@ -180,7 +197,8 @@ void PictureSurface::FilledBox(double x1, double y1, double x2, double y2, int c
   }
   Painter(colour);
   DrawLines();
-  painter_.fillRect(box, PaletteColour(colour));
+  painter_.setBrush(PaletteColour(colour));
+  painter_.drawRect(box);
   current_ = Pixel(x2, y2);
 }
 
@@ -261,13 +279,15 @@ void PictureSurface::paintEvent(QPaintEvent* event) {
 }
 
 void PictureSurface::resizeEvent(QResizeEvent*) {
-  MakeBuffer();
-  if (Resized) {
+  if (MakeBuffer() && Resized) {
     Resized();
   }
 }
 
 void PictureSurface::Pass(const Event<int, double, double>& to, int button, QPointF at) const {
+  if (HoldsPointer) {
+    at = QPointF(std::clamp(at.x(), 0.0, width() - 1.0), std::clamp(at.y(), 0.0, height() - 1.0));
+  }
   to(button, left_ + at.x() / width() * (right_ - left_), top_ + at.y() / height() * (bottom_ - top_));
 }
 
@@ -281,11 +301,18 @@ void PictureSurface::mouseMoveEvent(QMouseEvent* event) {
 
 void PictureSurface::mouseReleaseEvent(QMouseEvent* event) {
   Pass(picture_.MouseUp, ButtonNumber(event->button()), event->position());
-  if (event->button() == Qt::LeftButton && rect().contains(event->pos())) {
+  if (event->button() == Qt::LeftButton && !std::exchange(after_double_click_, false) &&
+      rect().contains(event->pos())) {
     picture_.Click();
   }
 }
 
-void PictureSurface::mouseDoubleClickEvent(QMouseEvent*) {
+/// Two presses of another button are just that. The release that follows a double click is no click.
+void PictureSurface::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) {
+    mousePressEvent(event);
+    return;
+  }
+  after_double_click_ = true;
   picture_.DblClick();
 }

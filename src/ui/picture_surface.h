@@ -37,10 +37,12 @@ class PictureSurface : public QWidget, public DrawSurface {
   /// Draws what waits together and gives the buffer free for showing, as a showing does by itself.
   void Finish();
 
-  /// Called after the buffer was made anew, empty and in another size.
+  /// Called after the buffer was made anew in another size, with the old picture stretched into it.
   std::function<void()> Resized;
-  /// Puts what was drawn on the screen now, also in the middle of a handler.
-  void ShowNow();
+  /// The pointer counts as inside while a button holds it, wherever it is.
+  bool HoldsPointer = false;
+  /// This size for good, and a buffer of it at once, before anything shows.
+  void FixSize(QSize size);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -51,7 +53,8 @@ class PictureSurface : public QWidget, public DrawSurface {
   void mouseDoubleClickEvent(QMouseEvent* event) override;
 
  private:
-  void MakeBuffer();
+  /// False if the one that is there still fits.
+  bool MakeBuffer();
   QPainter& Painter(int colour);
   void DrawLines();
   QPointF Pixel(double x, double y) const;
@@ -67,6 +70,7 @@ class PictureSurface : public QWidget, public DrawSurface {
   int pen_width_ = 1;
   Mode mode_ = Mode::Copy;
   bool smooth_ = false;
+  bool after_double_click_ = false;
   double left_ = 0, right_ = 1, top_ = 1, bottom_ = 0;
   QPointF current_;  ///< in pixels
 };

@@ -55,7 +55,7 @@ bool SaveWindowWidget::event(QEvent* event) {
 QWidget* SaveWindowWidget::BuildFile() {
   auto* column = NewColumn();
   QLineEdit* name =
-      NewBox(Form3.Text1, "File name", 0, "Eight letters, or the letters before a dot, are kept");
+      NewBox(Form3.Text1, "File name", 0, "What stands before the first dot, or eight letters, and .tvh");
   column->addWidget(NewLabel(Form3.Label1, name));
   column->addWidget(name);
   QListWidget* files = NewList("Hull files", "A click takes the name");
@@ -129,9 +129,9 @@ QWidget* SaveWindowWidget::BuildChecks() {
       {Form3.Check4, "Writes DXF files to the export path"},
       {Form3.Check5, "Letters the parts"},
       {Form3.Check6, "Bulkheads, frames and transom as one side only"},
-      {Form3.Check2, "Cuts a notch for a spar into bulkheads and frames"},
+      {Form3.Check2, "A hole for a spar on the centre line of bulkheads and frames"},
       {Form3.Check7, "A pattern for the stem"},
-      {Form3.Check8, "Two panels across the bottom"},
+      {Form3.Check8, "Two floors, across the hull at chines 2 and 3"},
       {Form3.Check9, "A panel across the sheer"},
       {Form3.Check10, "A panel across the keel"},
   };

@@ -53,9 +53,13 @@ WindowFace::WindowFace(Window& control, QWidget* widget)
   control.Visible.Show = [this] {
     widget_->setVisible(control_.Visible);
     if (control_.Visible) {
-      widget_->raise();
-      widget_->activateWindow();
+      control_.ToFront();
     }
+  };
+  control.ToFront = [this] {
+    widget_->setWindowState(widget_->windowState() & ~Qt::WindowMinimized);
+    widget_->raise();
+    widget_->activateWindow();
   };
   control.Move = [this](Place place) { MoveTo(place, widget_); };
   control.Busy.Show = [this] {
