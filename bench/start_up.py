@@ -11,7 +11,7 @@ import tempfile
 import time
 
 sys.path.insert(0, str(pathlib.Path(__file__).parent.parent / "tests" / "ui"))
-from desktop import Desktop  # noqa: E402
+from desktop import Desktop, Program  # noqa: E402
 
 RUNS = 15
 
@@ -62,15 +62,15 @@ def main(designer, empty):
             ours, other = (statistics.median(figures[command][place]) for command in (designer, empty))
             print(f"{what} / empty window  {ours / other:6.2f}  (wanted <= 2)   {ours:.3f} against {other:.3f}")
 
-        process, _, _ = start(designer, "Tarve Designer 1.91", environment, boats)
-        subprocess.run(["xdotool", "search", "--onlyvisible", "--name", "Tarve Ply Designer", "windowfocus",
-                        "key", "Return"], env=environment, check=False)
-        time.sleep(2)
-        before = cpu_ticks(process.pid)
-        time.sleep(10)
-        print("processor time in 10 s of idleness:", cpu_ticks(process.pid) - before, "ticks of 10 ms")
-        process.kill()
-        process.wait()
+        with Program(desktop, designer, boats) as program:
+            program.window("Tarve Ply Designer")
+            time.sleep(1)
+            program.keys("Tarve Ply Designer", "Return")
+            program.no_window("Tarve Ply Designer")
+            time.sleep(2)
+            before = cpu_ticks(program.process.pid)
+            time.sleep(10)
+            print("processor time in 10 s of idleness:", cpu_ticks(program.process.pid) - before, "ticks of 10 ms")
 
 
 if __name__ == "__main__":

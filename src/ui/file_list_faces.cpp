@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QSignalBlocker>
 #include <QStorageInfo>
+#include <QTimer>
 
 #include "ui/control_faces.h"
 
@@ -71,7 +72,8 @@ void Face(DirListBox& control, QListWidget* widget) {
 }
 
 void Face(DriveListBox& control, QComboBox* widget) {
-  widget->addItems(Places());
+  // Asking for all mounted volumes takes a while, and nobody needs them before the window shows.
+  QTimer::singleShot(0, widget, [widget] { widget->addItems(Places()); });
   QObject::connect(widget, &QComboBox::textActivated, widget, [&control](const QString& place) {
     if (*control.Drive == Entered(place)) {
       control.Change();  // back to the root of the place that was chosen before

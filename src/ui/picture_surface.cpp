@@ -57,8 +57,6 @@ PictureSurface::PictureSurface(PictureBox& picture, QWidget* parent) : QWidget(p
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMouseTracking(true);
   setFocusPolicy(Qt::NoFocus);
-  MakeBuffer();
-  picture = this;
   picture.ShowNow = [this] { repaint(); };
 }
 
@@ -77,6 +75,7 @@ bool PictureSurface::MakeBuffer() {
     QPainter(&buffer).drawImage(QRectF(rect()), buffer_);
   }
   buffer_ = buffer;
+  picture_ = this;
   return true;
 }
 

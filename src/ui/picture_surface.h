@@ -13,7 +13,8 @@
 
 class PictureSurface : public QWidget, public DrawSurface {
  public:
-  /// Shows `picture` and passes the mouse over it on. `picture` is told to draw here.
+  /// Shows `picture` and passes the mouse over it on. It draws here from the moment when the surface
+  /// has its size: what a program draws before its windows show would be lost work.
   PictureSurface(PictureBox& picture, QWidget* parent);
 
   void Cls() override;
