@@ -22,8 +22,6 @@ double FigureWeight;
 
 namespace {
 
-constexpr int ThumbnailColour = 4;
-
 bool Holds(std::string_view line, std::string_view word) {
   return line.find(word) != std::string_view::npos;
 }
@@ -81,7 +79,7 @@ void DrawThumbnail(DrawSurface& surface) {
   const double M = std::max(HullMaxX, HullMaxY);
   surface.Scale(-2, M + 2, M + 2, -2);
   for (int i = 1; i < std::min(FigureCount, MostFigurePoints); ++i) {
-    surface.Line(FigureX(i), FigureY(i), FigureX(i + 1), FigureY(i + 1), ThumbnailColour);
+    surface.Line(FigureX(i), FigureY(i), FigureX(i + 1), FigureY(i + 1), Red);
   }
 }
 

@@ -12,12 +12,6 @@
 
 namespace {
 
-constexpr int Blue = 1;
-constexpr int Magenta = 5;
-constexpr int LightGrey = 7;
-constexpr int LightBlue = 9;
-constexpr int LightRed = 12;
-
 enum class View { Plan, Sections, Profile };
 
 View CurrentView() {

@@ -112,7 +112,6 @@ void AddSlice(Pass& pass, int i) {
 
 /// The waterline point of one station, to the file, to the mirrored half and to the picture.
 void PutOutlinePoint(const Pass& pass, int i, std::string& out, std::string& mirrored) {
-  constexpr int brown = 6;
   PutMove(mirrored, pass.pz, -pass.px);
   if (i == 1) {
     Form1.Picture2->PSet(pass.pz, pass.px, DrawSurface::Foreground);
@@ -120,7 +119,7 @@ void PutOutlinePoint(const Pass& pass, int i, std::string& out, std::string& mir
     PutMove(out, pass.pz, pass.px);
     PutLine(out, "0 pendown");
   } else {
-    Form1.Picture2->LineTo(pass.pz, pass.px, brown);
+    Form1.Picture2->LineTo(pass.pz, pass.px, Brown);
     PutMove(out, pass.pz, pass.px);
   }
 }

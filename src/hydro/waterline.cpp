@@ -8,9 +8,6 @@
 
 namespace {
 
-constexpr int LightBlue = 9;
-constexpr int LightCyan = 11;
-
 void DrawWaterlineOnViews() {
   DrawSurface& section = *Form1.Picture1[0];
   DrawSurface& profile = *Form1.Picture1[1];

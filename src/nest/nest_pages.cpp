@@ -9,9 +9,6 @@
 
 namespace {
 
-constexpr int Black = 0;
-constexpr int Blue = 1;
-
 constexpr const char* Warning =
     "Tarve does NOT print well on ALL printers, so there's NO GUARANTEE you'll get good results.\n\n"
     "If you have a good CAD program, Tarve recommends you export/import DXF and print from there.\n\n"

@@ -11,13 +11,6 @@
 
 namespace {
 
-constexpr int Black = 0;
-constexpr int Magenta = 5;
-constexpr int LightGrey = 7;
-constexpr int LightGreen = 10;
-constexpr int LightRed = 12;
-constexpr int LightMagenta = 13;
-
 DrawSurface& Picture() {
   return *Form2.Picture1;
 }

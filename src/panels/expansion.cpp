@@ -91,7 +91,6 @@ void ChainTriangle(FlatPanel& panel, std::size_t i, CarriedOver& carried) {
 
 void DrawPreview(const FlatPanel& panel, double divisor) {
   DrawSurface& picture = *Form1.Picture2;
-  constexpr int green = 2;
   const double q = Quotient(picture.Height(), picture.Width());
   const double margin = 10 * divisor;
   const double width = panel.max_x - panel.min_x;
@@ -105,7 +104,7 @@ void DrawPreview(const FlatPanel& panel, double divisor) {
     picture.Scale(panel.min_x - margin, width * q + margin, panel.max_x + margin, panel.min_y - margin);
   }
   const auto line = [&](const PlotPoint& p, const PlotPoint& to) {
-    picture.Line(p.x, p.y, to.x, to.y, green);
+    picture.Line(p.x, p.y, to.x, to.y, Green);
   };
   for (std::size_t i = 0; i < panel.end; ++i) {
     line(panel.A[i], panel.B[i]);

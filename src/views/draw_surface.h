@@ -4,6 +4,24 @@
 
 #include <string_view>
 
+/// The colours that the program draws in, by their index in the classic palette of sixteen.
+enum Palette {
+  Black = 0,
+  Blue = 1,
+  Green = 2,
+  Cyan = 3,
+  Red = 4,
+  Magenta = 5,
+  Brown = 6,
+  LightGrey = 7,
+  DarkGrey = 8,
+  LightBlue = 9,
+  LightGreen = 10,
+  LightCyan = 11,
+  LightRed = 12,
+  LightMagenta = 13,
+};
+
 /// A picture that draws at once, in order, and keeps what was drawn. Coordinates are the surface's
 /// own, set by Scale; colours are indices of the classic 16-colour palette. A call with a coordinate
 /// that has no value draws nothing. Every operation does nothing here: this is also the surface of

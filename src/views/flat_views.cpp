@@ -4,7 +4,6 @@
 
 #include "base/number_text.h"
 #include "controls/forms.h"
-#include "views/palette.h"
 #include "views/view_scale.h"
 
 namespace {

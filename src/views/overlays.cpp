@@ -8,7 +8,6 @@
 #include "hull/figures.h"
 #include "hull/rig.h"
 #include "hydro/hull_points.h"
-#include "views/palette.h"
 
 namespace {
 

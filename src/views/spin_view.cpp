@@ -6,7 +6,6 @@
 
 #include "base/skipped_statement.h"
 #include "controls/forms.h"
-#include "views/palette.h"
 #include "views/view.h"
 
 PointTable ViewPtsA;

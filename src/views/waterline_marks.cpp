@@ -4,7 +4,6 @@
 #include "controls/forms.h"
 #include "hydro/hull_points.h"
 #include "hydro/hydrostatics.h"
-#include "views/palette.h"
 
 namespace {
 

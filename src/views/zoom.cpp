@@ -5,7 +5,6 @@
 
 #include "base/skipped_statement.h"
 #include "controls/forms.h"
-#include "views/palette.h"
 
 float ZoomLeft;
 float ZoomRight;
