@@ -9,6 +9,7 @@
 #include "base/clock.h"
 #include "base/files.h"
 #include "base/number_text.h"
+#include "base/platform.h"
 #include "batch/commands.h"
 #include "batch/nest_layout.h"
 #include "batch/report.h"
@@ -17,6 +18,7 @@
 #include "hull/hull_model.h"
 #include "nest/nest_editing.h"
 #include "nest/nest_model.h"
+#include "panels/hand_plot.h"
 #include "program/start_up.h"
 #include "ui/pdf_pages.h"
 
@@ -39,7 +41,7 @@ std::optional<std::string> ReadInput(const std::string& name, const char* what) 
 
 int FindPart(const std::string& name) {
   for (int p = 1; p <= NestPartCount; ++p) {
-    if (NestName(p) == name) {
+    if (IsSameName(NestName(p), name)) {
       return p;
     }
   }
@@ -85,6 +87,14 @@ void SetSheets(const NestLayout& layout) {
   Form2.Text2.Text = PlainText(layout.length);
 }
 
+/// Without a name of its own in the arguments the hull is the one that the table was made of.
+void NameHull(const std::string& name, const std::string& table) {
+  const std::string known = name.empty() ? HullOfHandPlot(table) : name;
+  if (!known.empty()) {
+    HullFileName = known;
+  }
+}
+
 /// Nests as a user would in a program just started.
 bool LayOut(const NestArguments& arguments) {
   const std::optional<std::string> table = ReadInput(arguments.hand_plot, "hand plotting table");
@@ -105,6 +115,7 @@ bool LayOut(const NestArguments& arguments) {
     Complain(arguments.hand_plot + ": expected a hand plotting table such as handplot.txt, found no parts");
     return false;
   }
+  NameHull(arguments.hull, *table);
   SetSheets(layout);
   for (const NestPartLayout& part : layout.parts) {
     const int p = FindPart(part.name);
@@ -118,16 +129,31 @@ bool LayOut(const NestArguments& arguments) {
   return true;
 }
 
+/// From here on both spellings of a path are one.
+NestArguments WithOwnPaths(NestArguments arguments) {
+  for (std::string* path : {&arguments.hand_plot, &arguments.layout, &arguments.out}) {
+    *path = WithOwnSeparators(*path);
+  }
+  return arguments;
+}
+
 /// Whether a file to write is one of those read.
-bool WouldReplaceInput(const std::string& out, const NestArguments& arguments) {
+bool WouldReplaceInput(const NestArguments& arguments) {
   for (const std::string& input : {arguments.hand_plot, arguments.layout}) {
     std::error_code failed;
-    if (fs::equivalent(FindFile(out), FindFile(input), failed)) {
-      Complain(out + ": expected a file to write other than " + input + ", which is read");
+    if (fs::equivalent(FindFile(arguments.out), FindFile(input), failed)) {
+      Complain(arguments.out + ": expected a file to write other than " + input + ", which is read");
       return true;
     }
   }
   return false;
+}
+
+/// Everything up to the button that writes.
+bool Prepare(const NestArguments& arguments) {
+  WatchFiles();
+  FixClock(arguments.date, arguments.time);
+  return !WouldReplaceInput(arguments) && LayOut(arguments);
 }
 
 int Finish() {
@@ -141,14 +167,10 @@ int Finish() {
 
 }  // namespace
 
-int RunNestTable(const NestTableArguments& arguments) {
-  WatchFiles();
-  FixClock(arguments.date, arguments.time);
-  if (WouldReplaceInput(arguments.out, arguments.nest) || !LayOut(arguments.nest)) {
+int RunNestTable(const NestArguments& typed) {
+  const NestArguments arguments = WithOwnPaths(typed);
+  if (!Prepare(arguments)) {
     return CouldNot;
-  }
-  if (!arguments.hull.empty()) {
-    HullFileName = arguments.hull;
   }
   InputBox = [&](const std::string&, const std::string&, const std::string&) { return arguments.out; };
   HoldBackChanges();
@@ -156,18 +178,18 @@ int RunNestTable(const NestTableArguments& arguments) {
   return Finish();
 }
 
-int RunNestPrint(const NestPrintArguments& arguments) {
-  WatchFiles();
-  if (WouldReplaceInput(arguments.pdf, arguments.nest) || !LayOut(arguments.nest)) {
+int RunNestPrint(const NestPrintArguments& typed) {
+  const NestArguments arguments = WithOwnPaths(typed.nest);
+  if (!Prepare(arguments)) {
     return CouldNot;
   }
   std::string pdf;
   Form2.Print = [&pdf](const PrintJob& job) { pdf = PdfOfPages(job); };
-  (arguments.fit == "prn" ? Form2.Command9 : Form2.Command10).Click();
+  (typed.fit == "prn" ? Form2.Command9 : Form2.Command10).Click();
   if (pdf.empty()) {
-    return Complain(arguments.pdf + ": the pages could not be painted");
+    return Complain(arguments.out + ": the pages could not be painted");
   }
   HoldBackChanges();
-  WriteTextFile(arguments.pdf, pdf);
+  WriteTextFile(arguments.out, pdf);
   return Finish();
 }
