@@ -7,6 +7,7 @@ import pathlib
 import subprocess
 import sys
 import tempfile
+import time
 import unittest
 
 PROGRAM = pathlib.Path(sys.argv.pop(1)).resolve()
@@ -91,6 +92,17 @@ class NestTest(unittest.TestCase):
             self.assertAlmostEqual(left, 1100 - 1 - right, delta=2, msg="in the middle across")
             self.assertAlmostEqual(framed[0], 850 - 1 - framed[-1], delta=2, msg="and up")
 
+    def test_a_fixed_clock_gives_the_same_pages(self):
+        dated = ["--pdf", "a.pdf", "--date", "11-16-2026", "--time", "12:34:56"]
+        self.run_nest("nest-print", {"parts": [BOARD]}, *dated)
+        first = (self.folder / "a.pdf").read_bytes()
+        time.sleep(1.1)
+        self.run_nest("nest-print", {"parts": [BOARD]}, *dated)
+        self.assertEqual((self.folder / "a.pdf").read_bytes(), first)
+        told = subprocess.run(["pdfinfo", "-rawdates", "a.pdf"], cwd=self.folder, capture_output=True, text=True)
+        self.assertRegex(told.stdout, "CreationDate: +D:20261116123456\n")
+        self.assertEqual(told.stderr, "")
+
     def test_parts_lie_on_their_pages_with_their_names(self):
         sail = {"name": "sail.uc", "x": 250, "y": 20, "copy": {"x": 270, "y": 20}}
         pdf, _ = self.pages({"parts": [BOARD, sail]}, "prn")
@@ -98,7 +110,7 @@ class NestTest(unittest.TestCase):
                  .stdout.split("\n") for n in "123"]
         self.assertIn("board.uc", names[0])
         self.assertNotIn("sail.uc", names[0])
-        self.assertTrue({"sail.uc", "Copy of sail.uc"} <= set(names[2]), names[2])
+        self.assertTrue({"sail.uc", "Copy of sail.uc", "Sheet 3 boat.tvh"} <= set(names[2]), names[2])
         unit = (1100 - 2 * 39.4) / 96  # pixels to an inch of the sheet
         bottom = 850 / 2 + 24 * unit
         rows = self.dark(pdf, 1)
