@@ -1,4 +1,4 @@
-// The commands on nesting: parts laid out as a file says, then the window's buttons pressed.
+// The commands on nesting: parts laid out as a file says, then the button pressed that writes.
 
 #include <filesystem>
 #include <optional>
@@ -8,15 +8,14 @@
 
 #include "base/clock.h"
 #include "base/files.h"
-#include "base/number_text.h"
 #include "base/platform.h"
 #include "batch/commands.h"
 #include "batch/nest_layout.h"
+#include "batch/nest_placing.h"
 #include "batch/report.h"
 #include "controls/dialogs.h"
 #include "controls/forms.h"
 #include "hull/hull_model.h"
-#include "nest/nest_editing.h"
 #include "nest/nest_model.h"
 #include "panels/hand_plot.h"
 #include "program/start_up.h"
@@ -39,52 +38,12 @@ std::optional<std::string> ReadInput(const std::string& name, const char* what) 
   return text;
 }
 
-int FindPart(const std::string& name) {
-  for (int p = 1; p <= NestPartCount; ++p) {
-    if (IsSameName(NestName(p), name)) {
-      return p;
-    }
-  }
-  return 0;
-}
-
 std::string NamesOfParts() {
   std::string names;
   for (int p = 1; p <= NestPartCount; ++p) {
     names += (p > 1 ? ", " : "") + Quoted(NestName(p));
   }
   return names;
-}
-
-void PlaceSelected(const NestPlacing& placing) {
-  const NestInstance& instance = NestInstances[static_cast<std::size_t>(NestCopySelected)];
-  instance.pos_x(NestCurrent) = placing.x;
-  instance.pos_y(NestCurrent) = placing.y;
-  if (placing.flip) {
-    Form2.Command1.Click();
-  }
-  if (placing.turn != 0) {
-    RotateSelected(placing.turn);
-  }
-}
-
-void LayOutPart(int p, const NestPartLayout& layout) {
-  Form2.List1.SetListIndex(p - 1);
-  PlaceSelected(layout.part);
-  if (layout.copy) {
-    Form2.Command5.Click();
-    NestCopySelected = 1;
-    PlaceSelected(*layout.copy);
-    NestCopySelected = 0;
-  }
-}
-
-void SetSheets(const NestLayout& layout) {
-  Form2.Option1.Value = layout.sheets == 3;
-  Form2.Option2.Value = layout.sheets == 4;
-  Form2.Option3.Value = layout.sheets == 5;
-  Form2.Text1.Text = PlainText(layout.height);
-  Form2.Text2.Text = PlainText(layout.length);
 }
 
 /// Without a name of its own in the arguments the hull is the one that the table was made of.
@@ -116,17 +75,12 @@ bool LayOut(const NestArguments& arguments) {
     return false;
   }
   NameHull(arguments.hull, *table);
-  SetSheets(layout);
-  for (const NestPartLayout& part : layout.parts) {
-    const int p = FindPart(part.name);
-    if (p == 0) {
-      Complain(arguments.layout + ": " + Quoted(part.name) + ": no such part in " + arguments.hand_plot +
-               "; expected one of " + NamesOfParts());
-      return false;
-    }
-    LayOutPart(p, part);
+  const std::string missing = LayOutParts(layout);
+  if (!missing.empty()) {
+    Complain(arguments.layout + ": " + Quoted(missing) + ": no such part in " + arguments.hand_plot +
+             "; expected one of " + NamesOfParts());
   }
-  return true;
+  return missing.empty();
 }
 
 /// From here on both spellings of a path are one.
