@@ -62,24 +62,19 @@ int RunVrml(const VrmlArguments& arguments);
 struct NestArguments {
   std::string hand_plot;  ///< a table as "handplot.txt"
   std::string layout;     ///< JSON, see nest_layout.h
-};
-
-struct NestTableArguments {
-  NestArguments nest;
-  std::string out = "nest.txt";
-  std::string hull;  ///< the name in the head line; empty for that of a program just started
+  std::string out;        ///< the file to write
+  std::string hull;       ///< the name on it; empty for the one in the table's title
   std::string date;
   std::string time;
 };
 
 /// Lays parts out on sheets and writes the table for marking them out by hand.
-int RunNestTable(const NestTableArguments& arguments);
+int RunNestTable(const NestArguments& typed);
 
 struct NestPrintArguments {
   NestArguments nest;
-  std::string pdf;
   std::string fit = "print";
 };
 
 /// Lays parts out on sheets and writes a PDF file with a page a sheet.
-int RunNestPrint(const NestPrintArguments& arguments);
+int RunNestPrint(const NestPrintArguments& typed);

@@ -228,21 +228,24 @@ void AddNestOptions(CLI::App* command, NestArguments& arguments) {
       ->type_name("LAYOUT.json")
       ->required()
       ->check(CheckNotEmpty);
+  command
+      ->add_option("--hull", arguments.hull,
+                   "Name of the hull to write; otherwise the one in the table's title")
+      ->type_name("NAME")
+      ->check(CheckNotEmpty);
+  AddClock(command, arguments.date, arguments.time);
 }
 
-void AddNestTable(CLI::App& app, NestTableArguments& arguments, std::function<int()>& run) {
+void AddNestTable(CLI::App& app, NestArguments& arguments, std::function<int()>& run) {
   CLI::App* const command = app.add_subcommand("nest-table", "parts laid out on sheets, to mark out by hand");
   command->formatter(std::make_shared<SynopsisFormatter>(
       "  tarve-batch nest-table --handplot FILE --layout LAYOUT.json [--out FILE]\n"
       "              [--hull NAME] [--date MM-DD-YYYY] [--time HH:MM:SS]"));
-  AddNestOptions(command, arguments.nest);
+  AddNestOptions(command, arguments);
+  arguments.out = "nest.txt";
   command->add_option("--out", arguments.out, "The table to write; nest.txt otherwise")
       ->type_name("FILE")
       ->check(CheckNotEmpty);
-  command->add_option("--hull", arguments.hull, "Name of the hull in the head line")
-      ->type_name("NAME")
-      ->check(CheckNotEmpty);
-  AddClock(command, arguments.date, arguments.time);
   command->footer(std::string(LayoutHelp) +
                   "\nEXAMPLE\n  tarve-batch nest-table --handplot dory/handplot.txt --layout dory.json\n");
   command->callback([&] { run = [&arguments] { return RunNestTable(arguments); }; });
@@ -252,9 +255,9 @@ void AddNestPrint(CLI::App& app, NestPrintArguments& arguments, std::function<in
   CLI::App* const command = app.add_subcommand("nest-print", "parts laid out on sheets, a page a sheet");
   command->formatter(std::make_shared<SynopsisFormatter>(
       "  tarve-batch nest-print --handplot FILE --layout LAYOUT.json --pdf FILE\n"
-      "              [--fit print|prn]"));
+      "              [--fit print|prn] [--hull NAME] [--date MM-DD-YYYY] [--time HH:MM:SS]"));
   AddNestOptions(command, arguments.nest);
-  command->add_option("--pdf", arguments.pdf, "The PDF file to write")
+  command->add_option("--pdf", arguments.nest.out, "The PDF file to write")
       ->type_name("FILE")
       ->required()
       ->check(CheckNotEmpty);
@@ -281,7 +284,7 @@ int Run(int argc, char** argv) {
   PointsArguments points;
   HydrostaticsArguments hydrostatics;
   VrmlArguments vrml;
-  NestTableArguments nest_table;
+  NestArguments nest_table;
   NestPrintArguments nest_print;
   std::function<int()> run;
   AddPatterns(app, patterns, run);

@@ -4,9 +4,12 @@
 #include <cmath>
 #include <initializer_list>
 #include <nlohmann/json.hpp>
+#include <set>
 #include <stdexcept>
 
 #include "base/number_text.h"
+#include "base/text_case.h"
+#include "nest/nest_model.h"
 
 namespace {
 
@@ -18,10 +21,15 @@ constexpr double MostTurn = 3600;
 constexpr double LeastSide = 1;
 constexpr double MostSide = 10000;
 
-std::string Shown(const Json& value) {
-  constexpr std::size_t most = 40;
-  const std::string text = value.dump(-1, ' ', true, Json::error_handler_t::replace);
+std::string Cut(const std::string& text, std::size_t most) {
   return text.substr(0, most) + (text.size() > most ? "..." : "");
+}
+
+std::string Shown(const Json& value) {
+  if (value.is_structured()) {
+    return value.is_array() ? "a list" : "an object";
+  }
+  return Cut(value.dump(-1, ' ', true, Json::error_handler_t::replace), 40);
 }
 
 std::string Found(const Json& value) {
@@ -128,11 +136,14 @@ void ReadParts(const Json& parts, NestLayout& layout) {
   if (!parts.is_array()) {
     Expected("parts", "a list" + Found(parts));
   }
+  if (parts.size() > MostNestParts) {
+    Expected("parts", "at most " + std::to_string(MostNestParts) + ", found " + std::to_string(parts.size()));
+  }
   for (const Json& part : parts) {
     const std::string place = "parts[" + std::to_string(layout.parts.size()) + "]";
     NestPartLayout read = ReadPartLayout(part, place);
     for (const NestPartLayout& earlier : layout.parts) {
-      if (earlier.name == read.name) {
+      if (IsSameName(earlier.name, read.name)) {
         Expected(Within(place, "name"), "each part once" + Found(read.name));
       }
     }
@@ -140,15 +151,46 @@ void ReadParts(const Json& parts, NestLayout& layout) {
   }
 }
 
-/// The library's own message without its number in front.
+/// Refuses, while a text is still being read, what its values could not tell any more: levels so deep that
+/// nobody meant them, and a key that stands twice in its object.
+class StructureCheck {
+ public:
+  bool operator()(int depth, Json::parse_event_t event, const Json& value) {
+    constexpr int most_levels = 16;
+    const bool opens_object = event == Json::parse_event_t::object_start;
+    if ((opens_object || event == Json::parse_event_t::array_start) && depth >= most_levels) {
+      Expected("", "at most " + std::to_string(most_levels) + " levels, found more");
+    }
+    if (opens_object) {
+      keys_.emplace_back();
+    } else if (event == Json::parse_event_t::object_end) {
+      keys_.pop_back();
+    } else if (event == Json::parse_event_t::key && !keys_.back().insert(value).second) {
+      Expected("", "each key of an object once" + Found(value));
+    }
+    return true;
+  }
+
+ private:
+  std::vector<std::set<Json>> keys_;  ///< of the objects that are open, the outermost first
+};
+
+/// The library's own message without its number in front, short and in plain letters: it may quote any
+/// bytes of the text.
+std::string MessageOf(const Json::exception& error) {
+  std::string message = error.what();
+  const std::size_t end_of_number = message.find("] ");
+  message.erase(0, end_of_number == std::string::npos ? 0 : end_of_number + 2);
+  std::replace_if(
+      message.begin(), message.end(), [](char c) { return c < ' ' || c > '~'; }, '?');
+  return Cut(message, 200);
+}
+
 Json Parse(std::string_view text) {
   try {
-    return Json::parse(text);
+    return Json::parse(text, StructureCheck());
   } catch (const Json::exception& error) {
-    const std::string message = error.what();
-    const std::size_t end_of_number = message.find("] ");
-    Expected("",
-             "JSON, found a " + message.substr(end_of_number == std::string::npos ? 0 : end_of_number + 2));
+    Expected("", "JSON, found a " + MessageOf(error));
   }
 }
 
@@ -163,6 +205,10 @@ NestLayout ReadNestLayout(std::string_view text) {
   }
   ReadParts(Required(json, "", "parts", "a list of parts"), layout);
   return layout;
+}
+
+bool IsSameName(std::string_view a, std::string_view b) {
+  return LowerCase(a) == LowerCase(b);
 }
 
 std::string Quoted(std::string_view text) {

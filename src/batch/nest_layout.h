@@ -36,5 +36,8 @@ struct NestLayout {
 /// no layout.
 NestLayout ReadNestLayout(std::string_view text);
 
+/// Whether two names mean the same part: letter case doesn't count, as with files.
+bool IsSameName(std::string_view a, std::string_view b);
+
 /// A text from a file as a message can show it: quoted, short, in plain letters.
 std::string Quoted(std::string_view text);

@@ -1,4 +1,4 @@
-// The commands on nesting: parts laid out as a file says, then the window's buttons pressed.
+// The commands on nesting: parts laid out as a file says, then the button pressed that writes.
 
 #include <filesystem>
 #include <optional>
@@ -8,15 +8,16 @@
 
 #include "base/clock.h"
 #include "base/files.h"
-#include "base/number_text.h"
+#include "base/platform.h"
 #include "batch/commands.h"
 #include "batch/nest_layout.h"
+#include "batch/nest_placing.h"
 #include "batch/report.h"
 #include "controls/dialogs.h"
 #include "controls/forms.h"
 #include "hull/hull_model.h"
-#include "nest/nest_editing.h"
 #include "nest/nest_model.h"
+#include "panels/hand_plot.h"
 #include "program/start_up.h"
 #include "ui/pdf_pages.h"
 
@@ -37,15 +38,6 @@ std::optional<std::string> ReadInput(const std::string& name, const char* what) 
   return text;
 }
 
-int FindPart(const std::string& name) {
-  for (int p = 1; p <= NestPartCount; ++p) {
-    if (NestName(p) == name) {
-      return p;
-    }
-  }
-  return 0;
-}
-
 std::string NamesOfParts() {
   std::string names;
   for (int p = 1; p <= NestPartCount; ++p) {
@@ -54,35 +46,12 @@ std::string NamesOfParts() {
   return names;
 }
 
-void PlaceSelected(const NestPlacing& placing) {
-  const NestInstance& instance = NestInstances[static_cast<std::size_t>(NestCopySelected)];
-  instance.pos_x(NestCurrent) = placing.x;
-  instance.pos_y(NestCurrent) = placing.y;
-  if (placing.flip) {
-    Form2.Command1.Click();
+/// Without a name of its own in the arguments the hull is the one that the table was made of.
+void NameHull(const std::string& name, const std::string& table) {
+  const std::string known = name.empty() ? HullOfHandPlot(table) : name;
+  if (!known.empty()) {
+    HullFileName = known;
   }
-  if (placing.turn != 0) {
-    RotateSelected(placing.turn);
-  }
-}
-
-void LayOutPart(int p, const NestPartLayout& layout) {
-  Form2.List1.SetListIndex(p - 1);
-  PlaceSelected(layout.part);
-  if (layout.copy) {
-    Form2.Command5.Click();
-    NestCopySelected = 1;
-    PlaceSelected(*layout.copy);
-    NestCopySelected = 0;
-  }
-}
-
-void SetSheets(const NestLayout& layout) {
-  Form2.Option1.Value = layout.sheets == 3;
-  Form2.Option2.Value = layout.sheets == 4;
-  Form2.Option3.Value = layout.sheets == 5;
-  Form2.Text1.Text = PlainText(layout.height);
-  Form2.Text2.Text = PlainText(layout.length);
 }
 
 /// Nests as a user would in a program just started.
@@ -105,29 +74,40 @@ bool LayOut(const NestArguments& arguments) {
     Complain(arguments.hand_plot + ": expected a hand plotting table such as handplot.txt, found no parts");
     return false;
   }
-  SetSheets(layout);
-  for (const NestPartLayout& part : layout.parts) {
-    const int p = FindPart(part.name);
-    if (p == 0) {
-      Complain(arguments.layout + ": " + Quoted(part.name) + ": no such part in " + arguments.hand_plot +
-               "; expected one of " + NamesOfParts());
-      return false;
-    }
-    LayOutPart(p, part);
+  NameHull(arguments.hull, *table);
+  const std::string missing = LayOutParts(layout);
+  if (!missing.empty()) {
+    Complain(arguments.layout + ": " + Quoted(missing) + ": no such part in " + arguments.hand_plot +
+             "; expected one of " + NamesOfParts());
   }
-  return true;
+  return missing.empty();
+}
+
+/// From here on both spellings of a path are one.
+NestArguments WithOwnPaths(NestArguments arguments) {
+  for (std::string* path : {&arguments.hand_plot, &arguments.layout, &arguments.out}) {
+    *path = WithOwnSeparators(*path);
+  }
+  return arguments;
 }
 
 /// Whether a file to write is one of those read.
-bool WouldReplaceInput(const std::string& out, const NestArguments& arguments) {
+bool WouldReplaceInput(const NestArguments& arguments) {
   for (const std::string& input : {arguments.hand_plot, arguments.layout}) {
     std::error_code failed;
-    if (fs::equivalent(FindFile(out), FindFile(input), failed)) {
-      Complain(out + ": expected a file to write other than " + input + ", which is read");
+    if (fs::equivalent(FindFile(arguments.out), FindFile(input), failed)) {
+      Complain(arguments.out + ": expected a file to write other than " + input + ", which is read");
       return true;
     }
   }
   return false;
+}
+
+/// Everything up to the button that writes.
+bool Prepare(const NestArguments& arguments) {
+  WatchFiles();
+  FixClock(arguments.date, arguments.time);
+  return !WouldReplaceInput(arguments) && LayOut(arguments);
 }
 
 int Finish() {
@@ -141,14 +121,10 @@ int Finish() {
 
 }  // namespace
 
-int RunNestTable(const NestTableArguments& arguments) {
-  WatchFiles();
-  FixClock(arguments.date, arguments.time);
-  if (WouldReplaceInput(arguments.out, arguments.nest) || !LayOut(arguments.nest)) {
+int RunNestTable(const NestArguments& typed) {
+  const NestArguments arguments = WithOwnPaths(typed);
+  if (!Prepare(arguments)) {
     return CouldNot;
-  }
-  if (!arguments.hull.empty()) {
-    HullFileName = arguments.hull;
   }
   InputBox = [&](const std::string&, const std::string&, const std::string&) { return arguments.out; };
   HoldBackChanges();
@@ -156,18 +132,18 @@ int RunNestTable(const NestTableArguments& arguments) {
   return Finish();
 }
 
-int RunNestPrint(const NestPrintArguments& arguments) {
-  WatchFiles();
-  if (WouldReplaceInput(arguments.pdf, arguments.nest) || !LayOut(arguments.nest)) {
+int RunNestPrint(const NestPrintArguments& typed) {
+  const NestArguments arguments = WithOwnPaths(typed.nest);
+  if (!Prepare(arguments)) {
     return CouldNot;
   }
   std::string pdf;
   Form2.Print = [&pdf](const PrintJob& job) { pdf = PdfOfPages(job); };
-  (arguments.fit == "prn" ? Form2.Command9 : Form2.Command10).Click();
+  (typed.fit == "prn" ? Form2.Command9 : Form2.Command10).Click();
   if (pdf.empty()) {
-    return Complain(arguments.pdf + ": the pages could not be painted");
+    return Complain(arguments.out + ": the pages could not be painted");
   }
   HoldBackChanges();
-  WriteTextFile(arguments.pdf, pdf);
+  WriteTextFile(arguments.out, pdf);
   return Finish();
 }

@@ -23,8 +23,10 @@ struct SlidingPicture : PictureBox {
 struct NestingWindow : Window {
   NestingWindow() : Window("Pattern Nesting") {}
 
+  /// The window has another width.
+  Event<> Resize;
   /// Width of the window in twips; the face keeps it true.
-  Property<int> Width{12000};
+  Property<int> Width{Resize, 12000};
 
   ListBox List1;  ///< the parts in the order of the file
   CommandButton Command1{"Flip"};

@@ -66,7 +66,10 @@ void ReadOut(NestPoint pointer) {
   }
   Form2.Caption = NestName(snap.p) + ": " + FixedText(x, 2) + "'' " + FixedText(y, 2) + "'' (" +
                   InchesAndEighths(x, x) + "'' " + InchesAndEighths(y, y) + "'')";
-  DrawSnapDistances(x, y);
+  if (!NestSnapDrawn) {
+    DrawSnapDistances(x, y);
+    NestSnapDrawn = true;
+  }
   NestSnapX = x;
   NestSnapY = y;
 }
@@ -117,6 +120,7 @@ void Form2_List1_Click() {
   } else {
     NestShown(p) = 1;
     NestCurrent = p;
+    NestCopySelected = 0;
   }
   Form2.Picture1.Refresh();
 }
@@ -170,12 +174,21 @@ void Form2_Command5_Click() {
 
 void Form2_Command7_Click() {
   const std::string view = Form2.Command7.Caption;
-  const bool fits_window = view == "Wide View" || view == "Full View";
   Form2.Command7.Caption = std::string(view == "Wide View"   ? "Full View"
                                        : view == "Full View" ? "False View"
                                                              : "Wide View");
-  Form2.Picture1.Width = fits_window ? Form2.Width - 240 : SlidingPicture::WidestView;
+  if (*Form2.Command7.Caption == "Wide View") {
+    Form2.Picture1.Width = SlidingPicture::WidestView;
+  }
+  Form2_Resize();
   Form2_Sheets_Change();
+}
+
+void Form2_Resize() {
+  constexpr int border = 240;
+  if (*Form2.Command7.Caption != "Wide View") {
+    Form2.Picture1.Width = Form2.Width - border;
+  }
 }
 
 void Form2_Sheets_Change() {

@@ -3,7 +3,8 @@
 // is turned, flipped or dragged is the selected instance: of part NestCurrent, the part itself or its
 // copy by NestCopySelected.
 
-/// Shows the chosen part and makes it the current one, or hides it together with its copy.
+/// Shows the chosen part and makes it, not its copy, the selected instance; or hides it together with its
+/// copy.
 void Form2_List1_Click();
 
 /// Mirrors the selected instance about its center line: Y changes its sign.
@@ -21,6 +22,8 @@ void RotateSelected(double degrees);
 void Form2_Command5_Click();
 /// On to the next of wide, full and false view.
 void Form2_Command7_Click();
+/// The window has another width: a view that fits it takes it over.
+void Form2_Resize();
 /// A change of the sheets: the picture goes back to its place and is painted anew.
 void Form2_Sheets_Change();
 

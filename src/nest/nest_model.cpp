@@ -31,6 +31,7 @@ double SheetLength = 96;
 double SheetRowLength = 288;
 double NestSnapX = NoValue;
 double NestSnapY = NoValue;
+bool NestSnapDrawn = false;
 
 const std::array<NestInstance, 2> NestInstances = {{
     {"", NestX, NestY, NestPosX, NestPosY, NestShown},
@@ -230,6 +231,7 @@ void ForgetNest() {
   }
   NestCurrent = NestCopySelected = 0;
   NestSnapX = NestSnapY = NoValue;
+  NestSnapDrawn = false;
   Form2.List1.Clear();
 }
 

@@ -51,6 +51,9 @@ extern double SheetRowLength;
 /// The point that the snap read-out showed last; no value before the first.
 extern double NestSnapX;
 extern double NestSnapY;
+/// Whether its distances stand on the picture. A paint takes them off; drawn twice, smoothed letters
+/// would grow fat.
+extern bool NestSnapDrawn;
 
 struct NestPoint {
   double x;

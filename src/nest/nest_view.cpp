@@ -58,7 +58,8 @@ void DrawInstance(const NestInstance& instance, int p) {
                  [](NestPoint from, NestPoint to) { Picture().Line(from.x, from.y, to.x, to.y, Black); });
   Picture().Box(center.x - 1, center.y - 1, center.x + 1, center.y + 1, LightMagenta);
   if (Form2.Check2.Value) {
-    PrintAt(center.x, center.y, instance.prefix + NestName(p), Black);
+    constexpr double beside_handle = 1.2;
+    PrintAt(center.x + beside_handle, center.y, instance.prefix + NestName(p), Black);
   }
 }
 
@@ -84,6 +85,7 @@ void DrawSelection() {
 void Form2_Picture1_Paint() {
   ReadSheets();
   Picture().Cls();
+  NestSnapDrawn = false;
   if (!(SheetHeight > 0 && SheetLength > 0)) {
     return;
   }
@@ -110,5 +112,6 @@ void DrawSnapDistances(double x, double y) {
   Picture().Line(o, y + 1, x, y + 1, LightRed);
   PrintAt((o + x) / 2 - Picture().TextWidth(across) / 2, y + 1, across, LightRed);
   Picture().Line(x + 1, 0, x + 1, y, LightRed);
-  PrintAt(x + 1, y / 2, InchesAndEighths(y, y) + "''", LightRed);
+  constexpr double beside = 0.5;  // clear of the line
+  PrintAt(x + 1 + beside, y / 2, InchesAndEighths(y, y) + "''", LightRed);
 }

@@ -17,6 +17,8 @@
 
 namespace {
 
+constexpr std::string_view TitleStart = "Hand plotting file for ";
+
 /// Millimetres of the rounded inches, not of the raw value.
 std::string InMillimetres(std::string_view inches) {
   return FixedText(NumberOf(inches) * 25.4, 1);
@@ -36,6 +38,19 @@ void AddToHandPlot(std::string& out, const std::string& name) {
   constexpr std::string_view rule = "__________";
   PutZones(out, {name, rule, rule, rule, rule, rule});
   out += HandPlotRows(ReadOrEmpty(name));
+}
+
+/// Takes a text such as the pattern, where "0" stands for any digit, and the blanks around it off the end.
+void DropEnd(std::string_view& text, std::string_view pattern) {
+  const auto trim = [&text] { text.remove_suffix(text.size() - (text.find_last_not_of(' ') + 1)); };
+  trim();
+  const std::string_view end = text.substr(text.size() - std::min(text.size(), pattern.size()));
+  const bool fits = std::equal(end.begin(), end.end(), pattern.begin(), pattern.end(),
+                               [](char c, char p) { return p == '0' ? c >= '0' && c <= '9' : c == p; });
+  if (fits) {
+    text.remove_suffix(pattern.size());
+    trim();
+  }
 }
 
 }  // namespace
@@ -66,7 +81,7 @@ std::string HandPlotRows(std::string_view pattern) {
 void WriteHandPlot() {
   ReadPlotScale();
   std::string out;
-  const std::string title = "Hand plotting file for " + HullFileName;
+  const std::string title = std::string(TitleStart) + HullFileName;
   PutZones(out, {title, TimeText(), DateText()});
   PutZones(out, {"X in.", "Y in.", "X in-eights", "Y in-eights", "X mm", "Y mm"});
   for (const std::string& name : HandPlottedParts()) {
@@ -74,4 +89,16 @@ void WriteHandPlot() {
   }
   Form1.StatusBar1.Panels[1] = "Done...";
   WriteTextFile("handplot.txt", out);
+}
+
+std::string HullOfHandPlot(std::string_view table) {
+  std::string_view title;
+  TextReader(table).ReadLine(title);
+  if (!title.starts_with(TitleStart)) {
+    return {};
+  }
+  title.remove_prefix(TitleStart.size());
+  DropEnd(title, "00-00-0000");
+  DropEnd(title, "00:00:00");
+  return std::string(title);
 }

@@ -14,3 +14,6 @@ std::string InEighths(std::string_view inches);
 
 /// Writes the table of all parts of the run from their pattern files.
 void WriteHandPlot();
+
+/// The hull's name in the title of such a table; empty if its first line is no title.
+std::string HullOfHandPlot(std::string_view table);

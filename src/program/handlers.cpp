@@ -67,6 +67,7 @@ void BindForm2Picture() {
 void BindForm2() {
   Form2.Unload = Form2_Unload;
   Form2.KeyDown = Form2_KeyDown;
+  Form2.Resize = Form2_Resize;
   Form2.List1.Click = Form2_List1_Click;
   Form2.Command1.Click = Form2_Command1_Click;
   Form2.Command2.Click = Form2_Command2_Click;

@@ -12,6 +12,7 @@
 #include <iostream>
 #include <memory>
 
+#include "base/clock.h"
 #include "ui/print_surface.h"
 
 namespace {
@@ -63,6 +64,25 @@ bool PaintPages(QPdfWriter& writer, const PrintJob& job) {
   return painter.end();
 }
 
+/// Month, day and year, and the time, as PDF writes them: year first, without signs between.
+std::string PdfTime(const std::string& date, const std::string& time) {
+  return date.substr(6) + date.substr(0, 2) + date.substr(3, 2) + time.substr(0, 2) + time.substr(3, 2) +
+         time.substr(6);
+}
+
+/// The writer dates a file by the system's clock and can't be told otherwise. Its text gives way to one of
+/// the same length by the program's clock, so that the places the file tells of itself stay true.
+void DateByOwnClock(std::string& pdf) {
+  const std::string_view mark = "/CreationDate (D:";
+  const std::size_t at = pdf.rfind(mark);
+  const std::size_t end = at == std::string::npos ? at : pdf.find(')', at);
+  const std::string date = PdfTime(DateText(), TimeText()) + ")";
+  if (end != std::string::npos && end + 1 - at >= mark.size() + date.size()) {
+    const std::size_t start = at + mark.size();
+    pdf.replace(start, end + 1 - start, date + std::string(end + 1 - start - date.size(), ' '));
+  }
+}
+
 }  // namespace
 
 std::string PdfOfPages(const PrintJob& job) {
@@ -76,5 +96,7 @@ std::string PdfOfPages(const PrintJob& job) {
     SetPaper(writer, job.landscape);
     done = job.pages > 0 && PaintPages(writer, job);
   }
-  return done ? bytes.toStdString() : std::string();
+  std::string pdf = done ? bytes.toStdString() : std::string();
+  DateByOwnClock(pdf);
+  return pdf;
 }

@@ -20,6 +20,7 @@ enum Palette {
   LightCyan = 11,
   LightRed = 12,
   LightMagenta = 13,
+  White = 15,
 };
 
 /// A picture that draws at once, in order, and keeps what was drawn. Coordinates are the surface's

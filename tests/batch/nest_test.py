@@ -7,6 +7,7 @@ import pathlib
 import subprocess
 import sys
 import tempfile
+import time
 import unittest
 
 PROGRAM = pathlib.Path(sys.argv.pop(1)).resolve()
@@ -72,7 +73,7 @@ class NestTest(unittest.TestCase):
             " " * 14 + '9-0" by 24-0"', " " * 14 + '29-0" by 24-0"'])
 
     def test_the_last_part_of_a_table_has_no_center(self):
-        self.assertIn('6-0"x9-0"', self.table({"parts": [{"name": "last.uc", "x": 5, "y": 7}]}))
+        self.assertIn('6-0"x9-0"', self.table({"parts": [{"name": "LAST.uc", "x": 5, "y": 7}]}))
 
     def test_each_sheet_has_a_page_with_its_frame_in_proportion(self):
         layout = {"sheet": {"height": 48, "length": 96, "count": 5},
@@ -91,6 +92,17 @@ class NestTest(unittest.TestCase):
             self.assertAlmostEqual(left, 1100 - 1 - right, delta=2, msg="in the middle across")
             self.assertAlmostEqual(framed[0], 850 - 1 - framed[-1], delta=2, msg="and up")
 
+    def test_a_fixed_clock_gives_the_same_pages(self):
+        dated = ["--pdf", "a.pdf", "--date", "11-16-2026", "--time", "12:34:56"]
+        self.run_nest("nest-print", {"parts": [BOARD]}, *dated)
+        first = (self.folder / "a.pdf").read_bytes()
+        time.sleep(1.1)
+        self.run_nest("nest-print", {"parts": [BOARD]}, *dated)
+        self.assertEqual((self.folder / "a.pdf").read_bytes(), first)
+        told = subprocess.run(["pdfinfo", "-rawdates", "a.pdf"], cwd=self.folder, capture_output=True, text=True)
+        self.assertRegex(told.stdout, "CreationDate: +D:20261116123456\n")
+        self.assertEqual(told.stderr, "")
+
     def test_parts_lie_on_their_pages_with_their_names(self):
         sail = {"name": "sail.uc", "x": 250, "y": 20, "copy": {"x": 270, "y": 20}}
         pdf, _ = self.pages({"parts": [BOARD, sail]}, "prn")
@@ -98,7 +110,7 @@ class NestTest(unittest.TestCase):
                  .stdout.split("\n") for n in "123"]
         self.assertIn("board.uc", names[0])
         self.assertNotIn("sail.uc", names[0])
-        self.assertTrue({"sail.uc", "Copy of sail.uc"} <= set(names[2]), names[2])
+        self.assertTrue({"sail.uc", "Copy of sail.uc", "Sheet 3 boat.tvh"} <= set(names[2]), names[2])
         unit = (1100 - 2 * 39.4) / 96  # pixels to an inch of the sheet
         bottom = 850 / 2 + 24 * unit
         rows = self.dark(pdf, 1)
@@ -124,6 +136,11 @@ class NestTest(unittest.TestCase):
             (parts(name=""), "parts[0].name"), ({"parts": [BOARD, BOARD]}, "parts[1].name", "once"),
             ({"sheet": {"count": 2}}, "sheet.count", "3, 4 or 5"), ({"sheet": {"height": 0}}, "sheet.height"),
             ({"sheet": {"length": 1e5}}, "sheet.length"), ({"sheets": 3}, '"sheets"'),
+            ({"parts": [BOARD, {**BOARD, "name": "Board.UC"}]}, "once", '"Board.UC"'),
+            ({"parts": [BOARD] * 31}, "parts: expected at most 30, found 31"),
+            ('{"parts": ' + "[" * 60000, "at most 16 levels"), ('{"a":' * 60000, "at most 16 levels"),
+            ({"parts": [[[BOARD]]]}, "found a list"), (parts(x=BOARD), "found an object"),
+            ('{"parts": [], "sheet": {}, "parts": []}', 'once, found "parts"'),
         ]
         for command, out in (("nest-table", []), ("nest-print", ["--pdf", "out.pdf"])):
             for layout, *words in cases:
@@ -131,7 +148,24 @@ class NestTest(unittest.TestCase):
                 self.assertEqual((done.returncode, done.stdout), (1, ""), layout)
                 for word in ("layout.json: ", *words):
                     self.assertIn(word, done.stderr)
+        for text in ('"' + "a\x7f\u20ac" * 100, '{"parts": 1' + "0" * 500 + "}"):
+            told = self.run_nest("nest-table", text).stderr
+            self.assertTrue(told.endswith("...\n") and told[:-1].isprintable() and told.isascii(), told)
+            self.assertLess(len(told), 260)
         self.assertEqual(sorted(os.listdir(self.folder)), ["handplot.txt", "layout.json"])
+
+    def test_the_hull_is_the_one_of_the_table_unless_it_is_named(self):
+        titles = [("dory.tvh  12:00:00      11-16-2026", "dory.tvh"), ("a.tvh12:00:0011-16-2026", "a.tvh"),
+                  ("my boat 7:00  12:00:00", "my boat 7:00"), ("12:00:00  11-16-2026", "default.tvh"),
+                  (None, "default.tvh")]
+        for title, name in titles:
+            first = "no title" if title is None else "Hand plotting file for " + title
+            (self.folder / "handplot.txt").write_text("\r\n".join([first, *TABLE[1:]]))
+            self.assertRegex(self.table({"parts": []})[0], f"^Nested hand plotting file for {name} +/ ")
+        self.assertRegex(self.table({"parts": []}, "--hull", "b.tvh")[0], "for b.tvh +/ ")
+        done = subprocess.run([PROGRAM, "nest-table", "--handplot", ".\\handplot.txt", "--layout",
+                               ".\\Layout.json", "--out", ".\\new.txt"], cwd=self.folder, capture_output=True)
+        self.assertTrue((self.folder / "new.txt").exists(), done.stderr)
 
     def test_files_that_are_missing_or_would_be_lost_are_refused(self):
         layout = {"parts": [BOARD]}
@@ -141,6 +175,8 @@ class NestTest(unittest.TestCase):
         for command, arguments, word in [
             ("nest-table", ["--out", "handplot.txt"], "which is read"),
             ("nest-table", ["--out", "Layout.json"], "which is read"),
+            ("nest-table", ["--out", ".\\handplot.txt"], "which is read"),
+            ("nest-print", ["--pdf", ".\\layout.json"], "which is read"),
             ("nest-table", ["--out", "no/nest.txt"], "no/nest.txt"),
             ("nest-print", ["--pdf", "kept.pdf"], "kept.pdf")]:
             done = self.run_nest(command, layout, *arguments)

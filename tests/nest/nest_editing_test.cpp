@@ -32,8 +32,9 @@ TEST_F(NestEditing, TheListShowsAndHidesAPartWithItsCopy) {
   OpenTwoParts();
   Form2.Command5.Click();
   EXPECT_EQ(NestCurrent, 0) << "no part is current yet, and no button minds";
+  NestCopySelected = 1;
   Click(1);
-  EXPECT_EQ(NestCurrent, 2);
+  EXPECT_EQ(NestCurrent * 10 + NestCopySelected, 20) << "the part itself, not its copy";
   EXPECT_EQ(surface.Count("line", " c0"), 3);
   Form2.Command5.Click();
   EXPECT_EQ(NestCopyShown(2), 1);
@@ -148,13 +149,15 @@ TEST_F(NestEditing, ThePointerReadsTheNearestPointOut) {
   EXPECT_TRUE(surface.Has("line 0.0,9.9 95.3,9.9 c12"));
   EXPECT_TRUE(surface.Has("point 47.7,9.9 c12\nprint 95-2'' c12"));
   EXPECT_TRUE(surface.Has("line 96.3,0.0 96.3,8.9 c12"));
-  EXPECT_TRUE(surface.Has("point 96.3,4.5 c12\nprint 8-7'' c12"));
+  EXPECT_TRUE(surface.Has("point 96.8,4.5 c12\nprint 8-7'' c12"));
 
   surface.Cls();
   Form2.Picture1.MouseMove(0, 97, 8.1);
-  EXPECT_EQ(surface.Count("cls", ""), 1);
-  EXPECT_FALSE(surface.Has("scale")) << "the same point needs no repaint";
-  EXPECT_EQ(surface.Count("line", " c13"), 0);
+  EXPECT_EQ(surface.calls, "cls\n") << "the same point stands on the picture already";
+  Form2.Picture1.Refresh();
+  Form2.Picture1.MouseMove(0, 97, 8.2);
+  EXPECT_TRUE(surface.Has("print 8-7'' c12")) << "a paint has taken it off";
+  EXPECT_EQ(surface.Count("line", " c13"), 0) << "the cross marks a new point only";
 
   Form2.Command5.Click();
   NestCopyPosX(1) = 110;
@@ -187,7 +190,7 @@ TEST_F(NestEditing, ThePictureShowsTheRowInThreeViews) {
   EXPECT_TRUE(surface.Has("box 192.0,100.0 288.0,0.0 c7"));
   EXPECT_TRUE(surface.Has("point 192.0,100.0 c7\nprint  3  c7"));
   EXPECT_TRUE(surface.Has("circle 0.0,0.0 r1.0 c5"));
-  EXPECT_TRUE(surface.Has("box 4.0,1.0 6.0,3.0 c13\npoint 5.0,2.0 c0\nprint board.uc c0"));
+  EXPECT_TRUE(surface.Has("box 4.0,1.0 6.0,3.0 c13\npoint 6.2,2.0 c0\nprint board.uc c0"));
   EXPECT_TRUE(surface.Has("print Copy of board.uc c0"));
   EXPECT_TRUE(surface.Has("filled 4.0,1.0 6.0,3.0 c10"));
 
@@ -196,11 +199,16 @@ TEST_F(NestEditing, ThePictureShowsTheRowInThreeViews) {
   EXPECT_EQ(*Form2.Command7.Caption, "Full View");
   EXPECT_EQ(*Form2.Picture1.Width, 11760);
   EXPECT_EQ(*Form2.Picture1.Left, 120);
+  Form2.Width = 10000;
+  EXPECT_EQ(*Form2.Picture1.Width, 9760) << "it follows the window";
   Form2.Command7.Click();
   EXPECT_EQ(*Form2.Command7.Caption, "False View");
+  Form2.Width = 14000;
+  EXPECT_EQ(*Form2.Picture1.Width, 13760);
   EXPECT_TRUE(surface.Has("scale -1.5,101.5 289.5,-1.5"));
   Form2.Command7.Click();
   EXPECT_EQ(*Form2.Command7.Caption, "Wide View");
+  Form2.Width = 12000;
   EXPECT_EQ(*Form2.Picture1.Width, 32767);
 
   Form2.Text1.Text = std::string("-200");

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "controls/dialogs.h"
+#include "hull/hull_model.h"
 #include "nest/nest_table.h"
 #include "support/nest_test.h"
 
@@ -100,6 +101,7 @@ Text Printed(CommandButton& button) {
     EXPECT_TRUE(job.landscape);
     for (int page = 1; page <= job.pages; ++page) {
       RecordingSurface paper;
+      paper.letter = 2;
       job.paint(page, paper);
       pages.push_back(paper.calls);
     }
@@ -145,7 +147,7 @@ TEST_F(NestOutput, PrintCentersEachSheetBetweenItsMargins) {
   EXPECT_TRUE(Shows(pages[1], "scale 81.7,50.7 188.3,-2.7"));
   EXPECT_TRUE(Shows(pages[1], "box 90.0,48.0 180.0,0.0 c0"));
   EXPECT_TRUE(Shows(pages[1], "line 142.0,4.0 132.0,4.0 c0"));
-  EXPECT_TRUE(Shows(pages[1], "point 137.0,2.0 c0\nprint board.uc c0"));
+  EXPECT_TRUE(Shows(pages[1], "point 132.7,2.0 c15\nprint board.uc c0")) << "8 letters of 2 in 200 by 106.7";
   EXPECT_TRUE(Shows(pages[0], "line 132.0,0.0 142.0,0.0 c0")) << "by its first end";
   EXPECT_FALSE(Shows(pages[0], "line 142.0,4.0 132.0,4.0 c0"));
   EXPECT_FALSE(Shows(pages[0], "print board.uc c0"));
@@ -167,9 +169,31 @@ TEST_F(NestOutput, PrnFillsThePageAndDrawsRelativeToTheSheet) {
   EXPECT_TRUE(Shows(pages[1], "scale 0.0,44.0 96.0,-4.0"));
   EXPECT_TRUE(Shows(pages[1], "box 0.0,40.0 96.0,0.0 c1"));
   EXPECT_TRUE(Shows(pages[1], "line 36.0,0.0 46.0,0.0 c0"));
-  EXPECT_TRUE(Shows(pages[1], "point 44.0,5.0 c0\nprint Copy of board.uc c0"));
+  EXPECT_TRUE(Shows(pages[1], "point 36.3,5.0 c15\nprint Copy of board.uc c0"));
   Form2.Text1.Text = std::string("60");
   EXPECT_TRUE(Shows(Printed(Form2.Command9)[0], "scale -12.0,60.0 108.0,0.0")) << "the height governs";
+}
+
+TEST_F(NestOutput, PagesTellTheirSheetAndKeepNamesOnThePaper) {
+  OpenTwoParts();
+  HullFileName = "/boats/dory.tvh";
+  Form2.Text1.Text = std::string("40");
+  Click(0);
+  NestPosX(1) = 100;
+  NestPosY(1) = -3.5;
+  Click(1);
+  NestPosX(2) = 95;
+  const Text pages = Printed(Form2.Command9);
+  // 96 inches on 200 units: a letter is 0.96 wide, a line 1.44 high.
+  EXPECT_TRUE(Shows(pages[1], "point 0.0,-0.4 c15\nprint Sheet 2   dory.tvh c0"));
+  EXPECT_TRUE(Shows(pages[1], "point 0.2,-2.6 c15\nprint board.uc c0")) << "raised above the lower edge";
+  EXPECT_TRUE(Shows(pages[0], "point 89.3,3.0 c15\nprint sail.uc c0")) << "kept left of the right edge";
+  EXPECT_TRUE(Shows(pages[0], "point 96.2,-3.5 c15\nprint board.uc c0")) << "off this page, and stays";
+  EXPECT_TRUE(Shows(pages[1], "width 2\nbox 0.0,40.0 96.0,0.0 c1\nwidth 1"));
+  EXPECT_LT(pages[1].find("print board.uc"), pages[1].find("box")) << "its mark spoils no line";
+  Form2.Text1.Text = std::string("60");
+  // The frame is as high as the page, and 120 inches are across: a line is 1.8 high.
+  EXPECT_TRUE(Shows(Printed(Form2.Command9)[2], "point -12.0,1.8 c15\nprint Sheet 3   dory.tvh c0"));
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 // A surface that keeps its calls as text, one a line: "line 0,0 1,2 c9". It keeps the contract: an
 // empty scale is refused, and a call with a coordinate that has no value is none.
 
+#include <cmath>
 #include <initializer_list>
 #include <string>
 
@@ -45,6 +46,9 @@ class RecordingSurface : public DrawSurface {
   }
   void DrawWidth(int pixels) override { Note("width " + std::to_string(pixels)); }
   void DrawMode(Mode mode) override { Note("mode " + std::to_string(static_cast<int>(mode))); }
+  double TextWidth(std::string_view text) const override {
+    return letter * static_cast<double>(text.size()) * std::abs(width_) / width;
+  }
   double Width() const override { return width; }
   double Height() const override { return height; }
   double ScaleLeft() const override { return left_; }
@@ -72,6 +76,7 @@ class RecordingSurface : public DrawSurface {
   int decimals = 1;
   double width = 200;
   double height = 100;
+  double letter = 0;  ///< width of any letter, in the units of `width`
 
  private:
   static bool HaveValues(std::initializer_list<double> values) {
