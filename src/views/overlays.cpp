@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/skipped_statement.h"
 #include "controls/forms.h"
 #include "hull/figures.h"
 #include "hull/rig.h"
@@ -49,7 +50,11 @@ void DrawFigure() {
 
 void PlaceRigStep() {
   FindRigStep(Form4.Option1.Value ? NumChines : 1);
-  HullMaxY = std::max({HullMaxY, RigPeak().y, RigStepY + RigMastLength});
+  for (const double top : {RigPeak().y, RigStepY + RigMastLength}) {
+    if (top > HullMaxY) {
+      Store(HullMaxY, top);
+    }
+  }
 }
 
 void DrawRig() {
