@@ -262,7 +262,11 @@ void PictureSurface::resizeEvent(QResizeEvent*) {
 }
 
 void PictureSurface::Pass(const Event<int, double, double>& to, int button, QPointF at) const {
-  to(button, left_ + at.x() / width() * (right_ - left_), top_ + at.y() / height() * (bottom_ - top_));
+  const double x = left_ + at.x() / width() * (right_ - left_);
+  const double y = top_ + at.y() / height() * (bottom_ - top_);
+  if (std::isfinite(x) && std::isfinite(y)) {  // a scale may be too wide to be counted across
+    to(button, x, y);
+  }
 }
 
 void PictureSurface::mousePressEvent(QMouseEvent* event) {
