@@ -11,9 +11,6 @@
 
 namespace {
 
-/// No walk along a span takes more samples, however the span lies.
-constexpr int MostSamples = 10000;
-
 /// What a stem half-width of 0 or less becomes here. The mouse editor has another floor of its own.
 constexpr double StemFloor = 0.01;
 
@@ -74,7 +71,9 @@ void SetCoefficients(Spline& s) {
 }
 
 /// Calls take(n, z, v) for every sample. Each span is walked in steps of a third of it and 0.1; the
-/// 0.1 keeps the third step from landing on the next bulkhead. Returns the last n.
+/// 0.1 keeps the third step from landing on the next bulkhead. A sample past the last station would
+/// count nowhere, so the walk ends there: where bulkheads lie close together, or so far away that a
+/// step is lost in the digits of Z, it would never end, or only long after. Returns the last n.
 template <class Take>
 int SampleSpans(const Spline& s, Take take) {
   int n = 0;
@@ -83,12 +82,10 @@ int SampleSpans(const Spline& s, Take take) {
     const double start = s.z(i);
     const double limit = s.z(i + 1);
     const double step = (limit - start) / 3 + 0.1;
-    int samples = 0;
-    for (double z = start; (step >= 0 ? z <= limit : z >= limit) && samples < MostSamples; z += step) {
+    for (double z = start; (step >= 0 ? z <= limit : z >= limit) && n < Stations; z += step) {
       const double t = z - start;
       Store(v, s.a(i) * (t * t * t) + s.b(i) * (t * t) + s.c(i) * t + s.d(i));
       take(++n, z, v);
-      ++samples;
     }
   }
   return n;
@@ -215,7 +212,7 @@ void SplineChineX(int chine) {
   const Spline s = SolveChine(chine, OffX);
   const int samples = SampleSpans(s, [chine](int n, double, double v) {
     HullPts(1, n, chine) = v;
-    if (n <= Stations && v > MaxHalfBeam) {
+    if (v > MaxHalfBeam) {
       MaxHalfBeam = v;
     }
   });

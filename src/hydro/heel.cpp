@@ -82,8 +82,8 @@ void FindCenterOfGravity(double angle) {
   SetWaterlineBar(Heel.NominalWaterlineY);
   const SectionTurn turn(angle);
   const double y = GravityCenterY;
-  GravityCenterX = turn.TurnedX(0, y);
-  GravityCenterY = turn.TurnedY(0, y);
+  Store(GravityCenterX, turn.TurnedX(0, y));
+  Store(GravityCenterY, turn.TurnedY(0, y));
 }
 
 /// The ends of the heeled waterline. All chines of the low side count here, unlike in the upright
@@ -113,7 +113,7 @@ void MeasureHeeledLength() {
       Store(WaterlineAftZ, CrossingZ(13, c, 13, c + 1, W));
     }
   }
-  Heel.HeeledLength = WaterlineAftZ - WaterlineForeZ;
+  Store(Heel.HeeledLength, WaterlineAftZ - WaterlineForeZ);
 }
 
 Side MeasureSide() {
@@ -147,8 +147,8 @@ void Combine(const Side& low, const Side& high) {
   Store(BuoyancyCenterX, (low.lbs * low.center.x - high.lbs * high.center.x) / Heel.TotalLbs);
   Store(BuoyancyCenterY, (low.lbs * low.center.y + high.lbs * high.center.y) / Heel.TotalLbs);
   Store(BuoyancyCenterZ, (low.lbs * low.center.z + high.lbs * high.center.z) / Heel.TotalLbs);
-  Heel.MomentArm = BuoyancyCenterX - GravityCenterX;
-  Heel.RightingMoment = (Heel.MomentArm / 12) * Heel.TotalLbs;
+  Store(Heel.MomentArm, BuoyancyCenterX - GravityCenterX);
+  Store(Heel.RightingMoment, (Heel.MomentArm / 12) * Heel.TotalLbs);
 }
 
 enum class Verdict { GoOn, Solved, Failed };

@@ -287,7 +287,11 @@ void PictureSurface::Pass(const Event<int, double, double>& to, int button, QPoi
   if (HoldsPointer) {
     at = QPointF(std::clamp(at.x(), 0.0, width() - 1.0), std::clamp(at.y(), 0.0, height() - 1.0));
   }
-  to(button, left_ + at.x() / width() * (right_ - left_), top_ + at.y() / height() * (bottom_ - top_));
+  const double x = left_ + at.x() / width() * (right_ - left_);
+  const double y = top_ + at.y() / height() * (bottom_ - top_);
+  if (std::isfinite(x) && std::isfinite(y)) {  // a scale may be too wide to be counted across
+    to(button, x, y);
+  }
 }
 
 void PictureSurface::mousePressEvent(QMouseEvent* event) {

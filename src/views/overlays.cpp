@@ -50,8 +50,8 @@ void DrawFigure() {
 void PlaceRigStep() {
   FindRigStep(Form4.Option1.Value ? NumChines : 1);
   for (const double top : {RigPeak().y, RigStepY + RigMastLength}) {
-    if (HasValue(top) && top > HullMaxY) {
-      HullMaxY = top;
+    if (top > HullMaxY) {
+      Store(HullMaxY, top);
     }
   }
 }

@@ -360,6 +360,16 @@ TEST_F(Hydrostatics, AHeelThatCanNotFloatFails) {
   EXPECT_EQ(Heel.Outcome, HeelOutcome::Failed) << "0 degrees changes nothing";
 }
 
+TEST_F(Hydrostatics, AnAngleBeyondAllNumbersMovesNoCenter) {
+  SetPrism(20, 20);
+  Float(8);
+  HeelTo("10");
+  const double x = GravityCenterX;
+  HeelTo("-1e308");  // the angle is a number; in radians, on the way, it is none
+  EXPECT_EQ(GravityCenterX, x);
+  EXPECT_NEAR(GravityCenterY, 10, 0.5) << "the center of the upright hull";
+}
+
 TEST_F(Hydrostatics, TheLatchFailsASearchThatIsHeavyAgain) {
   Float(14.5);  // the built-in hull: too light in the first turn, one step up and it is too heavy
   HeelTo("21");

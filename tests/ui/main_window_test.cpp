@@ -146,6 +146,9 @@ TEST_F(MainWindowTest, TheMouseDragsANode) {
   EXPECT_NEAR(OffX(3, 2), 32, 1.5 / across);
   EXPECT_NEAR(OffY(3, 2), 15.5, 1.5 / up);
   EXPECT_TRUE(Named<QLabel>("Status panel 5")->text().endsWith('x'));
+  picture->Scale(-1e308, 1, 1e308, 0);  // its width is no number
+  QTest::mousePress(picture, Qt::LeftButton, {}, node);
+  EXPECT_EQ(CurChine, 3) << "a press that has no place picks nothing, not even no node";
 }
 
 TEST_F(MainWindowTest, TheWaterlineStaysOnTheThumbnails) {

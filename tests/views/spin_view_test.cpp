@@ -186,6 +186,9 @@ TEST_F(SpinView, ARigMakesTheProfileAndFitsIn) {
     Form1.Refresh();
     EXPECT_EQ(RigStepY, 6);
   }
+  RigBoomHeight = RigLuffLength = 1e308;
+  Form1.Refresh();
+  EXPECT_EQ(HullMaxY, 136) << "a peak beyond all numbers raises nothing";
   Form4.Rig.Value = false;
   Form1.Refresh();
   EXPECT_EQ(HullMaxY, 20);
