@@ -3,8 +3,9 @@
 #include <QBoxLayout>
 #include <QGuiApplication>
 #include <QMenuBar>
-#include <QScreen>
+#include <QPainter>
 #include <QStatusBar>
+#include <QStyleOptionFocusRect>
 #include <QTimer>
 
 #include "controls/forms.h"
@@ -16,8 +17,25 @@
 
 namespace {
 
-constexpr QSize ThumbnailSize(136, 100);
+constexpr int ThumbnailHeight = 104;
+/// What a screen of 1920 by 1080 shows at twice the size, less frame and panels.
+constexpr int SmallWidth = 940;
 constexpr QSize BestSize(1180, 800);
+
+/// The fixed picture that stands for the spin view, a button that looks like a thumbnail.
+class LogoButton : public QPushButton {
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    painter.fillRect(rect(), Qt::white);
+    icon().paint(&painter, rect());
+    if (hasFocus()) {
+      QStyleOptionFocusRect option;
+      option.initFrom(this);
+      style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+    }
+  }
+};
 
 }  // namespace
 
@@ -30,10 +48,8 @@ MainWindowWidget::MainWindowWidget() {
   column->setContentsMargins(Gap, Gap, Gap, 0);
   column->setSpacing(Gap);
   column->addWidget(BuildTopRow());
-  QFrame* frame = Framed(picture_);
-  column->addWidget(frame, 1);
+  column->addWidget(Framed(picture_), 1);
   setCentralWidget(middle);
-  ColourFrame(frame, QPalette::Mid);
   new WindowFace(Form1, this);
   for (MenuItem* view : {&Form1.Sections, &Form1.Profile, &Form1.Plan}) {
     connect(ActionOf(*view), &QAction::toggled, this, &MainWindowWidget::MarkCurrentView);
@@ -43,7 +59,7 @@ MainWindowWidget::MainWindowWidget() {
   connect(clock, &QTimer::timeout, this, [] { Form1.Timer1(); });
   clock->setTimerType(Qt::VeryCoarseTimer);
   clock->start(MainWindow::TimerInterval);
-  resize(BestSize.boundedTo(screen()->availableSize() - QSize(20, 40)));
+  ResizeToScreen(this, BestSize);
 }
 
 void MainWindowWidget::BuildMenus() {
@@ -93,6 +109,7 @@ QWidget* MainWindowWidget::BuildTopRow() {
   AddThumbnails(row);
   row->addSpacing(Gap);
   row->addWidget(BuildBoxes(), 1);
+  SizeThumbnails(*row);
   return top;
 }
 
@@ -100,7 +117,6 @@ void MainWindowWidget::AddThumbnails(QBoxLayout* row) {
   const char* const views[] = {"Section", "Profile", "plan"};
   for (std::size_t i = 0; i < 3; ++i) {
     auto* surface = new PictureSurface(Form1.Picture1[i], nullptr);
-    surface->setFixedSize(ThumbnailSize);
     surface->setCursor(Qt::PointingHandCursor);
     const QString tool_tip = QString("Click to edit %1 view").arg(views[i]);
     Describe(surface, tool_tip, tool_tip);
@@ -108,17 +124,28 @@ void MainWindowWidget::AddThumbnails(QBoxLayout* row) {
     frames_[i] = Framed(surface);
     row->addWidget(frames_[i]);
   }
-  auto* logo = new QPushButton;
-  logo->setFlat(true);
-  logo->setFixedSize(ThumbnailSize);
+  auto* logo = new LogoButton;
+  logo->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   logo->setIcon(QIcon(":/logo.png"));
-  logo->setIconSize(ThumbnailSize);
   logo->setCursor(Qt::PointingHandCursor);
   logo->setFocusPolicy(Qt::TabFocus);
   Describe(logo, "Spin view", "Click to see the hull in space");
   connect(logo, &QPushButton::clicked, this, [] { Form1.Picture3.Click(); });
   frames_[3] = Framed(logo);
   row->addWidget(frames_[3]);
+}
+
+/// As wide as the boxes beside them, in this desktop's font, leave room for on a small screen. They keep
+/// that size: a thumbnail painted anew would lose its waterline.
+void MainWindowWidget::SizeThumbnails(const QLayout& row) {
+  for (const int width : {140, 116, 92}) {
+    for (QFrame* frame : frames_) {
+      frame->setFixedSize(width, ThumbnailHeight);
+    }
+    if (row.minimumSize().width() + 2 * Gap <= SmallWidth) {
+      return;
+    }
+  }
 }
 
 QWidget* MainWindowWidget::BuildBoxes() {
@@ -147,7 +174,7 @@ void MainWindowWidget::AddBulkheads(QBoxLayout* upper, QBoxLayout* lower) {
   for (std::size_t k = 0; k < 5; ++k) {
     QBoxLayout* row = k < 4 ? upper : lower;
     const QString tool_tip = names[k] + " in inches; Enter moves the bulkhead of all chines";
-    QLineEdit* box = NewBox(Form1.Text1[k], names[k], k == 0 ? 40 : 58, tool_tip);
+    QLineEdit* box = NewBox(Form1.Text1[k], names[k], k == 0 ? 3 : 6, tool_tip);
     if (labels[k] != nullptr) {
       row->addWidget(NewLabel(*labels[k], box));
     }
@@ -156,17 +183,17 @@ void MainWindowWidget::AddBulkheads(QBoxLayout* upper, QBoxLayout* lower) {
 }
 
 void MainWindowWidget::AddSpinControls(QBoxLayout* row) {
-  QLineEdit* chines = NewBox(Form1.Text3, "Number of chines", 34, "Number of chines, 2 to 30");
+  QLineEdit* chines = NewBox(Form1.Text3, "Number of chines", 3, "Number of chines, 2 to 30");
   row->addSpacing(Gap);
   row->addWidget(NewLabel(Form1.Label5, chines));
   row->addWidget(chines);
   row->addWidget(new SpinButtons(Form1.VScroll1, "Number of chines", nullptr));
   row->addSpacing(Gap);
-  row->addWidget(NewButton(Form1.Command1, "Spin in X and Y", 30, "Spin view (or use keyboard)"));
-  row->addWidget(NewButton(Form1.Command5, "Spin in X and Z", 30, "Spin view (left and right arrow)"));
-  row->addWidget(NewButton(Form1.Command6, "Spin in Y and Z", 30, "Spin view (up and down arrow)"));
+  row->addWidget(NewButton(Form1.Command1, "Spin in X and Y", 1, "Spin view (or use keyboard)"));
+  row->addWidget(NewButton(Form1.Command5, "Spin in X and Z", 1, "Spin view (left and right arrow)"));
+  row->addWidget(NewButton(Form1.Command6, "Spin in Y and Z", 1, "Spin view (up and down arrow)"));
   row->addSpacing(Gap);
-  row->addWidget(NewButton(Form1.Command2, "Write a VRML model", 58, "Write the hull as a VRML model"));
+  row->addWidget(NewButton(Form1.Command2, "Write a VRML model", 5, "Write the hull as a VRML model"));
 }
 
 void MainWindowWidget::AddWaterAndResults(QBoxLayout* row) {
@@ -228,6 +255,6 @@ void MainWindowWidget::MarkCurrentView() {
   const bool spin = !shown[0] && !shown[1] && !shown[2];
   for (std::size_t i = 0; i < frames_.size(); ++i) {
     const bool current = i < 3 ? shown[i] : spin;
-    ColourFrame(frames_[i], current ? QPalette::Highlight : QPalette::Mid);
+    MarkFrame(frames_[i], current);
   }
 }

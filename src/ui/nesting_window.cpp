@@ -40,10 +40,9 @@ NestingWindowWidget::NestingWindowWidget() {
   rows->setContentsMargins(Gap, Gap, Gap, Gap);
   rows->setSpacing(Gap);
   auto* upper = NewRow();
-  auto* parts = new QListWidget;
+  QListWidget* parts = NewList("Parts", "A click puts a part on the sheets, or takes it off");
   parts->setFixedSize(220, 108);
   Face(Form2.List1, parts);
-  Describe(parts, "Parts", "A click puts a part on the sheets, or takes it off");
   upper->addWidget(parts);
   upper->addLayout(BuildTools(), 1);
   rows->addLayout(upper);
@@ -52,7 +51,7 @@ NestingWindowWidget::NestingWindowWidget() {
   Form2.Beep = [] { QApplication::beep(); };
   Form2.StartViewer = StartViewer;
   Form2.Print = [this](const PrintJob& job) { PrintWithDialog(job, this); };
-  resize(1100, 560);
+  ResizeToScreen(this, {1100, 560});
 }
 
 QBoxLayout* NestingWindowWidget::BuildTools() {
@@ -66,10 +65,10 @@ QBoxLayout* NestingWindowWidget::BuildTools() {
 QBoxLayout* NestingWindowWidget::BuildPartRow() {
   auto* row = NewRow();
   row->addWidget(NewButton(Form2.Command1, "Flip the part", 0, "A mirror image of the part"));
-  row->addWidget(NewButton(Form2.Command2, "Turn the part by 180 degrees", 52));
-  row->addWidget(NewButton(Form2.Command3, "Turn the part by 90 degrees", 46));
-  row->addWidget(NewButton(Form2.Command4, "Turn the part anticlockwise", 52, "A quarter of a degree"));
-  row->addWidget(NewButton(Form2.Command6, "Turn the part clockwise", 46, "A quarter of a degree"));
+  row->addWidget(NewButton(Form2.Command2, "Turn the part by 180 degrees", 4));
+  row->addWidget(NewButton(Form2.Command3, "Turn the part by 90 degrees", 3));
+  row->addWidget(NewButton(Form2.Command4, "Turn the part anticlockwise", 4, "A quarter of a degree"));
+  row->addWidget(NewButton(Form2.Command6, "Turn the part clockwise", 3, "A quarter of a degree"));
   row->addWidget(NewButton(Form2.Command5, "Copy the part", 0, "A second piece of the part, or none"));
   row->addWidget(NewCheck(Form2.Check2, "Names of the parts"));
   row->addStretch(1);
@@ -84,9 +83,9 @@ QBoxLayout* NestingWindowWidget::BuildPartRow() {
 QBoxLayout* NestingWindowWidget::BuildSheetRow() {
   auto* row = NewRow();
   row->addWidget(new QLabel("Sheet"));
-  row->addWidget(NewBox(Form2.Text1, "Height of a sheet", 48, "Inches"));
+  row->addWidget(NewBox(Form2.Text1, "Height of a sheet", 5, "Inches"));
   row->addWidget(new QLabel("x"));
-  row->addWidget(NewBox(Form2.Text2, "Length of a sheet", 48, "Inches"));
+  row->addWidget(NewBox(Form2.Text2, "Length of a sheet", 5, "Inches"));
   for (OptionButton* count : {&Form2.Option1, &Form2.Option2, &Form2.Option3}) {
     row->addWidget(NewOption(*count));
   }
@@ -94,7 +93,7 @@ QBoxLayout* NestingWindowWidget::BuildSheetRow() {
   row->addStretch(1);
   row->addWidget(NewArrow(Form2.Image3, Qt::LeftArrow, "Slide to the first sheets"));
   row->addWidget(NewArrow(Form2.Image4, Qt::RightArrow, "Slide to the last sheets"));
-  row->addWidget(NewButton(Form2.Command7, "View of the sheets", 100, "The next view of the sheets"));
+  row->addWidget(NewButton(Form2.Command7, "View of the sheets", 10, "The next view of the sheets"));
   return row;
 }
 
@@ -102,11 +101,12 @@ QBoxLayout* NestingWindowWidget::BuildPicture() {
   auto* row = NewRow();
   opening_ = new QWidget;
   opening_->setMinimumSize(300, 150);
+  opening_->installEventFilter(this);
   picture_ = new PictureSurface(Form2.Picture1, opening_);
   Describe(picture_, "Sheets with parts");
   picture_->Resized = [] { Form2.Picture1.Refresh(); };
   Form2.Picture1.Left.Show = Form2.Picture1.Width.Show = [this] { PlacePicture(); };
-  row->addWidget(opening_, 1);
+  row->addWidget(Framed(opening_), 1);
   return row;
 }
 
@@ -117,7 +117,12 @@ void NestingWindowWidget::PlacePicture() {
 
 void NestingWindowWidget::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
-  layout()->activate();
   Form2.Width = width() * TwipsPerPixel;
-  PlacePicture();
+}
+
+bool NestingWindowWidget::eventFilter(QObject* target, QEvent* event) {
+  if (target == opening_ && event->type() == QEvent::Resize) {
+    PlacePicture();
+  }
+  return QWidget::eventFilter(target, event);
 }

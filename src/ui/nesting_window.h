@@ -12,6 +12,7 @@ class NestingWindowWidget : public QWidget {
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
+  bool eventFilter(QObject* target, QEvent* event) override;
 
  private:
   QBoxLayout* BuildTools();

@@ -3,8 +3,21 @@
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QRadioButton>
+#include <QScreen>
 
 #include "ui/control_faces.h"
+
+namespace {
+
+constexpr int AroundTextOfBox = 14;     ///< frame, margins and the cursor of a line edit, pixels
+constexpr int AroundTextOfButton = 22;  ///< the like of a push button
+
+/// The font of a person's desktop may be twice as wide as ours: widths are told in digits.
+void FixWidth(QWidget* widget, int digits, int around) {
+  widget->setFixedWidth(digits * widget->fontMetrics().horizontalAdvance('0') + around);
+}
+
+}  // namespace
 
 QLabel* NewLabel(Label& control, QWidget* neighbour) {
   auto* label = new QLabel;
@@ -14,25 +27,33 @@ QLabel* NewLabel(Label& control, QWidget* neighbour) {
   return label;
 }
 
-QLineEdit* NewBox(TextBox& control, const QString& name, int width, const QString& tool_tip) {
+QLineEdit* NewBox(TextBox& control, const QString& name, int digits, const QString& tool_tip) {
   auto* box = new QLineEdit;
-  if (width > 0) {
-    box->setFixedWidth(width);
+  if (digits > 0) {
+    FixWidth(box, digits, AroundTextOfBox);
   }
   Face(control, box);
   Describe(box, name, tool_tip);
   return box;
 }
 
-QPushButton* NewButton(CommandButton& control, const QString& name, int width, const QString& tool_tip) {
+QPushButton* NewButton(CommandButton& control, const QString& name, int digits, const QString& tool_tip) {
   auto* button = new QPushButton;
   button->setAutoDefault(false);
   Face(control, button);
-  if (width > 0) {
-    button->setFixedWidth(width);
+  if (digits > 0) {
+    FixWidth(button, digits, AroundTextOfButton);
   }
   Describe(button, name, tool_tip);
   return button;
+}
+
+QListWidget* NewList(const QString& name, const QString& tool_tip) {
+  constexpr int rows = 3;
+  auto* list = new QListWidget;
+  list->setMinimumHeight(rows * list->fontMetrics().height() + 2 * list->frameWidth());
+  Describe(list, name, tool_tip);
+  return list;
 }
 
 QAbstractButton* NewCheck(CheckBox& control, const QString& tool_tip) {
@@ -49,20 +70,25 @@ QAbstractButton* NewOption(OptionButton& control, const QString& tool_tip) {
   return button;
 }
 
+void ResizeToScreen(QWidget* window, QSize best) {
+  constexpr QSize frame_and_panels(20, 40);
+  window->resize(best.boundedTo(window->screen()->availableSize() - frame_and_panels));
+}
+
+void MarkFrame(QFrame* frame, bool chosen) {
+  // By role, not by colour, so that it follows the desktop from light to dark.
+  frame->setForegroundRole(chosen ? QPalette::Highlight : QPalette::Mid);
+}
+
 QFrame* Framed(QWidget* inside) {
   auto* frame = new QFrame;
   frame->setFrameStyle(QFrame::Box | QFrame::Plain);
   frame->setLineWidth(2);
+  MarkFrame(frame, false);
   auto* layout = new QHBoxLayout(frame);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(inside);
   return frame;
-}
-
-void ColourFrame(QFrame* frame, QPalette::ColorRole role) {
-  QPalette colours = frame->parentWidget()->palette();
-  colours.setColor(QPalette::WindowText, colours.color(role));
-  frame->setPalette(colours);
 }
 
 QHBoxLayout* NewRow() {

@@ -6,30 +6,35 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPalette>
 #include <QPushButton>
 
 #include "controls/controls.h"
 
 class QAbstractButton;
 class QHBoxLayout;
+class QListWidget;
 class QVBoxLayout;
 
 inline constexpr int Gap = 6;  ///< between widgets and around them, pixels
 
 /// The label of a control; its letter, if it has one, leads to the neighbour.
 QLabel* NewLabel(Label& control, QWidget* neighbour = nullptr);
-/// A text box; no width lets it grow with its window.
-QLineEdit* NewBox(TextBox& control, const QString& name, int width = 0, const QString& tool_tip = {});
-/// A button, at least wide enough for its caption.
-QPushButton* NewButton(CommandButton& control, const QString& name, int width = 0,
+/// A text box for so many digits; none lets it grow with its window.
+QLineEdit* NewBox(TextBox& control, const QString& name, int digits = 0, const QString& tool_tip = {});
+/// A button for so many digits; none leaves the width to the toolkit.
+QPushButton* NewButton(CommandButton& control, const QString& name, int digits = 0,
                        const QString& tool_tip = {});
+/// A list that keeps a few rows in sight where the screen is small.
+QListWidget* NewList(const QString& name, const QString& tool_tip);
 QAbstractButton* NewCheck(CheckBox& control, const QString& tool_tip = {});
 QAbstractButton* NewOption(OptionButton& control, const QString& tool_tip = {});
 
-/// A thin frame around a widget, in a colour that ColourFrame changes.
+/// Gives a window its best size, or what of it fits the screen beside frame and panels.
+void ResizeToScreen(QWidget* window, QSize best);
+
+/// A thin frame around a widget, dull until it is marked as the chosen one.
 QFrame* Framed(QWidget* inside);
-void ColourFrame(QFrame* frame, QPalette::ColorRole role);
+void MarkFrame(QFrame* frame, bool chosen);
 
 QHBoxLayout* NewRow();
 QVBoxLayout* NewColumn();

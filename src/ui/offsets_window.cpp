@@ -34,7 +34,7 @@ OffsetsWindowWidget::OffsetsWindowWidget(QWidget* parent)
   table_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   table_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   Describe(table_, "Offsets", "Click on any offset to change it");
-  resize(470, 560);
+  ResizeToScreen(this, {470, 560});
   Form5.Grid1.Box.Width =
       (width() - 2 * Gap - table_->verticalScrollBar()->sizeHint().width() - 4) * TwipsPerPixel;
 

@@ -15,7 +15,7 @@
 namespace {
 
 constexpr int FigureSize = 84;
-constexpr int NumberBox = 64;
+constexpr int NumberBox = 7;  ///< digits
 
 struct LabelledBox {
   Label& label;
@@ -46,22 +46,20 @@ OpenWindowWidget::OpenWindowWidget(QWidget* parent) : QWidget(parent, Qt::Window
   columns->addLayout(numbers);
   MarkFigure();
   new WindowFace(Form4, this);
-  resize(900, 470);
+  ResizeToScreen(this, {900, 470});
 }
 
 QWidget* OpenWindowWidget::BuildFiles() {
   auto* column = NewColumn();
   column->addWidget(NewBox(Form4.Text1, "Open hull file"));
-  auto* files = new QListWidget;
+  QListWidget* files = NewList("Hull files", "A click opens the hull");
   Face(Form4.File1, files);
-  Describe(files, "Hull files", "A click opens the hull");
   column->addWidget(files, 3);
   QLabel* folder = NewLabel(Form4.Label3);
   folder->setWordWrap(true);
   column->addWidget(folder);
-  auto* folders = new QListWidget;
+  QListWidget* folders = NewList("Folders", "A double click goes to a folder");
   Face(Form4.Dir1, folders);
-  Describe(folders, "Folders", "A double click goes to a folder");
   column->addWidget(folders, 2);
   auto* places = new QComboBox;
   Face(Form4.Drive1, places);
@@ -104,17 +102,17 @@ QBoxLayout* OpenWindowWidget::BuildFigureButtons() {
   auto* rows = NewColumn();
   auto* sizes = NewRow();
   sizes->addWidget(new QLabel("Height"));
-  sizes->addWidget(NewBox(Form4.Text3, "Height of the person", 44, "Height of the person in inches"));
+  sizes->addWidget(NewBox(Form4.Text3, "Height of the person", 4, "Height of the person in inches"));
   sizes->addWidget(new SpinButtons(Form4.VScroll2, "Height of the person", nullptr));
   sizes->addSpacing(Gap);
   sizes->addWidget(new QLabel("Weight"));
-  sizes->addWidget(NewBox(Form4.Text8, "Weight of the person", 52));
+  sizes->addWidget(NewBox(Form4.Text8, "Weight of the person", 5));
   sizes->addStretch(1);
   rows->addLayout(sizes);
   auto* turns = NewRow();
   turns->addWidget(NewButton(Form4.Command5, "Flip the figure left to right"));
   turns->addWidget(NewButton(Form4.Command6, "Flip the figure upside down"));
-  turns->addWidget(NewButton(Form4.Command7, "Turn the figure by 90 degrees", 44));
+  turns->addWidget(NewButton(Form4.Command7, "Turn the figure by 90 degrees", 3));
   turns->addStretch(1);
   rows->addLayout(turns);
   return rows;
@@ -155,6 +153,6 @@ QWidget* OpenWindowWidget::BuildBallast() {
 void OpenWindowWidget::MarkFigure() {
   for (std::size_t i = 0; i < frames_.size(); ++i) {
     const bool chosen = Form4.Shape2.Visible && Form4.Shape2.Index == static_cast<int>(i);
-    ColourFrame(frames_[i], chosen ? QPalette::Highlight : QPalette::Mid);
+    MarkFrame(frames_[i], chosen);
   }
 }

@@ -16,14 +16,16 @@ SaveWindowWidget::SaveWindowWidget(QWidget* parent) : QWidget(parent, Qt::Window
   setWindowModality(Qt::ApplicationModal);
   auto* rows = new QVBoxLayout(this);
   rows->setSpacing(Gap);
-  auto* upper = NewRow();
-  upper->addWidget(BuildFile(), 1);
-  upper->addWidget(BuildInformation(), 1);
-  rows->addLayout(upper, 1);
-  auto* lower = NewRow();
-  lower->addWidget(BuildFrames(), 1);
-  lower->addWidget(BuildChecks(), 1);
-  rows->addLayout(lower);
+  auto* quarters = new QGridLayout;
+  quarters->setSpacing(Gap);
+  quarters->addWidget(BuildFile(), 0, 0);
+  quarters->addWidget(BuildInformation(), 0, 1);
+  quarters->addWidget(BuildFrames(), 1, 0);
+  quarters->addWidget(BuildChecks(), 1, 1);
+  quarters->setRowStretch(0, 1);
+  quarters->setColumnStretch(0, 1);
+  quarters->setColumnStretch(1, 1);
+  rows->addLayout(quarters, 1);
   rows->addLayout(BuildButtons());
   new WindowFace(Form3, this);
   const auto show = Form3.Visible.Show;
@@ -34,7 +36,7 @@ SaveWindowWidget::SaveWindowWidget(QWidget* parent) : QWidget(parent, Qt::Window
     }
   };
   Form3.ShowModal = [this] { ShowModal(); };
-  resize(760, 560);
+  ResizeToScreen(this, {760, 560});
 }
 
 void SaveWindowWidget::ShowModal() {
@@ -56,13 +58,11 @@ QWidget* SaveWindowWidget::BuildFile() {
       NewBox(Form3.Text1, "File name", 0, "Eight letters, or the letters before a dot, are kept");
   column->addWidget(NewLabel(Form3.Label1, name));
   column->addWidget(name);
-  auto* files = new QListWidget;
+  QListWidget* files = NewList("Hull files", "A click takes the name");
   Face(Form3.File1, files);
-  Describe(files, "Hull files", "A click takes the name");
   column->addWidget(files, 2);
-  auto* folders = new QListWidget;
+  QListWidget* folders = NewList("Folders", "A double click goes to a folder");
   Face(Form3.Dir1, folders);
-  Describe(folders, "Folders", "A double click goes to a folder");
   column->addWidget(NewLabel(Form3.Label2, folders));
   QLabel* folder = NewLabel(Form3.Label3);
   folder->setWordWrap(true);
@@ -109,7 +109,7 @@ QWidget* SaveWindowWidget::BuildFrames() {
   grid->addWidget(NewLabel(Form3.Label15), 0, 0, 1, 5);
   for (int i = 0; i < 8; ++i) {
     const auto at = static_cast<std::size_t>(i);
-    QLineEdit* box = NewBox(Form3.FrameText[at], QString("Z position of frame %1").arg(i + 1), 64,
+    QLineEdit* box = NewBox(Form3.FrameText[at], QString("Z position of frame %1").arg(i + 1), 7,
                             "Inches from the stem; empty or 0 for no frame");
     grid->addWidget(NewLabel(*numbers[at], box), 1 + i % 4, 2 * (i / 4));
     grid->addWidget(box, 1 + i % 4, 2 * (i / 4) + 1);
@@ -148,10 +148,10 @@ QWidget* SaveWindowWidget::BuildChecks() {
 QBoxLayout* SaveWindowWidget::BuildButtons() {
   auto* row = NewRow();
   row->addStretch(1);
-  QPushButton* save = NewButton(Form3.Command1, "Save", 90, "Saves the hull and creates what is ticked");
+  QPushButton* save = NewButton(Form3.Command1, "Save", 9, "Saves the hull and creates what is ticked");
   save->setDefault(true);
   Form3.Command1.SetFocus = [save] { save->setFocus(); };
   row->addWidget(save);
-  row->addWidget(NewButton(Form3.Command2, "Cancel", 90));
+  row->addWidget(NewButton(Form3.Command2, "Cancel", 9));
   return row;
 }
