@@ -17,16 +17,10 @@
 
 namespace {
 
-constexpr QSize ThumbnailSize(140, 104);
-constexpr int NarrowThumbnail = 88;  ///< where the screen is small
+constexpr int ThumbnailHeight = 104;
+/// What a screen of 1920 by 1080 shows at twice the size, less frame and panels.
+constexpr int SmallWidth = 940;
 constexpr QSize BestSize(1180, 800);
-
-QFrame* FramedThumbnail(QWidget* thumbnail) {
-  QFrame* frame = Framed(thumbnail);
-  frame->setMinimumSize(NarrowThumbnail, ThumbnailSize.height());
-  frame->setMaximumSize(ThumbnailSize);
-  return frame;
-}
 
 /// The fixed picture that stands for the spin view, a button that looks like a thumbnail.
 class LogoButton : public QPushButton {
@@ -116,7 +110,8 @@ QWidget* MainWindowWidget::BuildTopRow() {
   row->setSpacing(Gap);
   AddThumbnails(row);
   row->addSpacing(Gap);
-  row->addWidget(BuildBoxes(), 3);
+  row->addWidget(BuildBoxes(), 1);
+  SizeThumbnails(*row);
   return top;
 }
 
@@ -128,8 +123,8 @@ void MainWindowWidget::AddThumbnails(QBoxLayout* row) {
     const QString tool_tip = QString("Click to edit %1 view").arg(views[i]);
     Describe(surface, tool_tip, tool_tip);
     surface->Resized = [this] { refresh_.start(); };
-    frames_[i] = FramedThumbnail(surface);
-    row->addWidget(frames_[i], 1);
+    frames_[i] = Framed(surface);
+    row->addWidget(frames_[i]);
   }
   auto* logo = new LogoButton;
   logo->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -139,8 +134,21 @@ void MainWindowWidget::AddThumbnails(QBoxLayout* row) {
   Describe(logo, "Spin view", "Click to see the hull in space");
   connect(logo, &QPushButton::clicked, this, [] { Form1.Picture3.Click(); });
   PressWithEnter(logo);
-  frames_[3] = FramedThumbnail(logo);
-  row->addWidget(frames_[3], 1);
+  frames_[3] = Framed(logo);
+  row->addWidget(frames_[3]);
+}
+
+/// As wide as the boxes beside them, in this desktop's font, leave room for on a small screen. They keep
+/// that size: a thumbnail painted anew would lose its waterline.
+void MainWindowWidget::SizeThumbnails(const QLayout& row) {
+  for (const int width : {140, 116, 92}) {
+    for (QFrame* frame : frames_) {
+      frame->setFixedSize(width, ThumbnailHeight);
+    }
+    if (row.minimumSize().width() + 2 * Gap <= SmallWidth) {
+      return;
+    }
+  }
 }
 
 QWidget* MainWindowWidget::BuildBoxes() {

@@ -13,6 +13,7 @@ class QBoxLayout;
 class QFrame;
 class QGridLayout;
 class QLabel;
+class QLayout;
 class PictureSurface;
 
 class MainWindowWidget : public QMainWindow {
@@ -23,6 +24,7 @@ class MainWindowWidget : public QMainWindow {
   void BuildMenus();
   QWidget* BuildTopRow();
   void AddThumbnails(QBoxLayout* row);
+  void SizeThumbnails(const QLayout& row);
   QWidget* BuildBoxes();
   void AddBulkheads(QBoxLayout* upper, QBoxLayout* lower);
   void AddSpinControls(QBoxLayout* row);

@@ -26,10 +26,14 @@ QToolButton* NewArrow(ClickableImage& image, Qt::ArrowType arrow, const QString&
   return button;
 }
 
+/// A desktop without a viewer is no failure of ours: the toolkit's own complaint on the terminal is held
+/// back.
 void StartViewer(const std::string& name) {
   const std::filesystem::path path = FindFile(name);
   if (!path.empty()) {
+    const auto told = qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     QDesktopServices::openUrl(QUrl::fromLocalFile(Shown(path.string())));
+    qInstallMessageHandler(told);
   }
 }
 

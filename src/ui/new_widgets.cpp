@@ -2,6 +2,8 @@
 
 #include <QBoxLayout>
 #include <QCheckBox>
+#include <QEvent>
+#include <QPainter>
 #include <QRadioButton>
 #include <QScreen>
 
@@ -17,6 +19,25 @@ void FixWidth(QWidget* widget, int digits, int around) {
   widget->setFixedWidth(digits * widget->fontMetrics().horizontalAdvance('0') + around);
 }
 
+class PathLabel : public QLabel {
+ public:
+  PathLabel() { setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    painter.setPen(palette().color(foregroundRole()));
+    painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter,
+                     fontMetrics().elidedText(text(), Qt::ElideMiddle, width()));
+  }
+  bool event(QEvent* event) override {
+    if (event->type() == QEvent::ToolTip) {
+      setToolTip(text());
+    }
+    return QLabel::event(event);
+  }
+};
+
 }  // namespace
 
 QLabel* NewLabel(Label& control, QWidget* neighbour) {
@@ -24,6 +45,13 @@ QLabel* NewLabel(Label& control, QWidget* neighbour) {
   label->setTextFormat(Qt::PlainText);
   Face(control, label);
   label->setBuddy(neighbour);
+  return label;
+}
+
+QLabel* NewPathLabel(Label& control) {
+  auto* label = new PathLabel;
+  label->setTextFormat(Qt::PlainText);
+  Face(control, label);
   return label;
 }
 

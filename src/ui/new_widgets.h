@@ -19,6 +19,8 @@ inline constexpr int Gap = 6;  ///< between widgets and around them, pixels
 
 /// The label of a control; its letter, if it has one, leads to the neighbour.
 QLabel* NewLabel(Label& control, QWidget* neighbour = nullptr);
+/// The label of a path, on one line however long it is: its middle gives way, its tool tip tells all.
+QLabel* NewPathLabel(Label& control);
 /// A text box for so many digits; none lets it grow with its window.
 QLineEdit* NewBox(TextBox& control, const QString& name, int digits = 0, const QString& tool_tip = {});
 /// A button for so many digits; none leaves the width to the toolkit.

@@ -26,6 +26,9 @@ void OpenCell(int row, int column) {
   }
 }
 
+/// With this width of the whole grid the first column, a quarter of it, holds "BH 4 transom".
+constexpr int DigitsAcross = 58;
+
 }  // namespace
 
 OffsetsWindowWidget::OffsetsWindowWidget(QWidget* parent)
@@ -36,16 +39,18 @@ OffsetsWindowWidget::OffsetsWindowWidget(QWidget* parent)
   table_->setColumnCount(Form5.Grid1.Cols());
   table_->horizontalHeader()->hide();  // the first row of the grid holds the headings
   table_->verticalHeader()->hide();
-  table_->verticalHeader()->setDefaultSectionSize(24);
+  table_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 10);
   table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   table_->setSelectionMode(QAbstractItemView::SingleSelection);
   table_->setTabKeyNavigation(false);
   table_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   table_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   Describe(table_, "Offsets", "Click on any offset to change it");
-  ResizeToScreen(this, {470, 560});
-  Form5.Grid1.Box.Width =
-      (width() - 2 * Gap - table_->verticalScrollBar()->sizeHint().width() - 4) * TwipsPerPixel;
+  const int grid_width = DigitsAcross * fontMetrics().horizontalAdvance('0');
+  setMinimumWidth(grid_width + 2 * Gap + table_->verticalScrollBar()->sizeHint().width() +
+                  2 * table_->frameWidth());
+  ResizeToScreen(this, {minimumWidth(), 560});
+  Form5.Grid1.Box.Width = grid_width * TwipsPerPixel;
 
   box_ = new QLineEdit(table_->viewport());
   Face(Form5.Text1, box_);
@@ -83,10 +88,10 @@ void OffsetsWindowWidget::ShowGrid() {
         item = new QTableWidgetItem;
         item->setTextAlignment(at < FixedColumns ? Qt::AlignLeft | Qt::AlignVCenter
                                                  : Qt::AlignRight | Qt::AlignVCenter);
-        if (row == 0 || at < FixedColumns) {
-          item->setBackground(palette().alternateBase());
-        }
         table_->setItem(row, at, item);
+      }
+      if (row == 0 || at < FixedColumns) {
+        item->setBackground(palette().alternateBase());
       }
       const QString text = Shown(grid.Text(row, at));
       if (item->text() != text) {
@@ -113,6 +118,13 @@ void OffsetsWindowWidget::ShowBox() {
 
 void OffsetsWindowWidget::PlaceBox() {
   box_->setGeometry(table_->visualRect(table_->model()->index(Form5.Grid1.Row(), Form5.Grid1.Col())));
+}
+
+void OffsetsWindowWidget::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) {
+    ShowGrid();
+  }
 }
 
 bool OffsetsWindowWidget::eventFilter(QObject* target, QEvent* event) {

@@ -10,6 +10,7 @@ class OffsetsWindowWidget : public QWidget {
   explicit OffsetsWindowWidget(QWidget* parent);
 
  protected:
+  void changeEvent(QEvent* event) override;
   bool eventFilter(QObject* target, QEvent* event) override;
 
  private:

@@ -59,9 +59,7 @@ QWidget* OpenWindowWidget::BuildFiles() {
   QListWidget* files = NewList("Hull files", "A click opens the hull");
   Face(Form4.File1, files);
   column->addWidget(files, 3);
-  QLabel* folder = NewLabel(Form4.Label3);
-  folder->setWordWrap(true);
-  column->addWidget(folder);
+  column->addWidget(NewPathLabel(Form4.Label3));
   QListWidget* folders = NewList("Folders", "A double click goes to a folder");
   Face(Form4.Dir1, folders);
   column->addWidget(folders, 2);

@@ -64,9 +64,7 @@ QWidget* SaveWindowWidget::BuildFile() {
   QListWidget* folders = NewList("Folders", "A double click goes to a folder");
   Face(Form3.Dir1, folders);
   column->addWidget(NewLabel(Form3.Label2, folders));
-  QLabel* folder = NewLabel(Form3.Label3);
-  folder->setWordWrap(true);
-  column->addWidget(folder);
+  column->addWidget(NewPathLabel(Form3.Label3));
   column->addWidget(folders, 2);
   auto* places = new QComboBox;
   Face(Form3.Drive1, places);

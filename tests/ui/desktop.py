@@ -1,15 +1,22 @@
 """A screen without a monitor, and a program on it that is used as a person uses it: by keys, the mouse
-and the eye. Needs Xvfb, xdotool and the imaging library of the distribution."""
+and the eye. Needs Xvfb, xdotool and the imaging library of the distribution.
+
+Places are told in the pixels of the screen. What stands where is found by eye, because fonts differ from
+machine to machine; what is nowhere to be seen is reached by the keyboard."""
 
 import os
 import pathlib
 import subprocess
+import sys
 import tempfile
 import time
 
 from PIL import ImageGrab
 
+MAIN = "Tarve Designer 1.91"
+ABOUT = "Tarve Ply Designer"
 WHITE = (255, 255, 255)
+DARK = ((0, 0, 0), (90, 90, 90))  # black, smoothed at its edges
 
 
 class Desktop:
@@ -38,18 +45,26 @@ class Desktop:
 
 
 class Program:
-    """The program, started in a folder of its own; closed for good when the `with` ends."""
+    """The program, started in a folder of its own; closed for good when the `with` ends. Its home lies
+    beside the folder, with a `bin` that is all it finds programs in, and what it says on the terminal."""
 
     def __init__(self, desktop, command, folder):
         self.desktop, self.command, self.folder = desktop, command, pathlib.Path(folder)
+        self.home = self.folder.parent / "home"
+        self.messages = self.home / "messages.txt"
 
     def __enter__(self):
-        home = self.folder.parent / "home"
-        home.mkdir(mode=0o700, exist_ok=True)
+        (self.home / "bin").mkdir(mode=0o700, parents=True, exist_ok=True)
+        self.home.chmod(0o700)
+        # No printer of this machine is in reach: what is printed goes to a file.
         self.environment = dict(
-            os.environ, DISPLAY=self.desktop.display, HOME=str(home), XDG_CONFIG_HOME=str(home / "config"),
-            XDG_RUNTIME_DIR=str(home), QT_QPA_PLATFORM="xcb", QT_SCALE_FACTOR=str(self.desktop.scale))
-        self.process = subprocess.Popen([self.command], cwd=self.folder, env=self.environment)
+            os.environ, DISPLAY=self.desktop.display, HOME=str(self.home), LC_ALL="C.UTF-8",
+            XDG_CONFIG_HOME=str(self.home / "config"), XDG_RUNTIME_DIR=str(self.home),
+            CUPS_SERVER=str(self.home / "no-printers"), QT_QPA_PLATFORM="xcb",
+            QT_SCALE_FACTOR=str(self.desktop.scale))
+        with open(self.messages, "w") as messages:
+            self.process = subprocess.Popen([self.command], cwd=self.folder, stderr=messages,
+                                            env=dict(self.environment, PATH=str(self.home / "bin")))
         return self
 
     def __exit__(self, *_):
@@ -63,7 +78,7 @@ class Program:
                               text=True, check=False).stdout
 
     def window(self, title, seconds=20):
-        """The id of the visible window with this title, waited for."""
+        """The id of the visible window with this title, a regular expression, waited for."""
         return wait_for(lambda: self.do("search", "--onlyvisible", "--name", f"^{title}$").split()[-1:], seconds,
                         f"window {title!r}")[0]
 
@@ -74,9 +89,8 @@ class Program:
     def keys(self, title, *keys):
         """Presses keys in the window with this title."""
         self.do("windowfocus", "--sync", self.window(title))
-        for key in keys:
-            self.do("key", "--clearmodifiers", key)
-            time.sleep(0.08)
+        self.do("key", "--clearmodifiers", "--delay", 40, *keys)
+        time.sleep(0.1)
 
     def type(self, title, text):
         self.do("windowfocus", "--sync", self.window(title))
@@ -106,6 +120,56 @@ class Program:
         return self.process.returncode
 
 
+class Session:
+    """What all sessions do: start the program, look at it, choose from its menus, close it."""
+
+    def __init__(self, program, pictures):
+        self.program, self.pictures, self.scale = program, pathlib.Path(pictures), program.desktop.scale
+
+    def start(self):
+        self.program.window(MAIN)
+        self.program.keys(ABOUT, "Return")
+        self.program.no_window(ABOUT)
+
+    def menu(self, letter, *more):
+        self.program.keys(MAIN, "alt+" + letter, *more)
+
+    def picture(self, name):
+        """A picture of the screen, kept."""
+        time.sleep(0.3)
+        picture = self.program.desktop.picture()
+        picture.save(self.pictures / f"{name}.png", compress_level=1)
+        return picture
+
+    def look(self, name):
+        """The same, and the place of the drawing surface of the main window on it."""
+        picture = self.picture(name)
+        window = left, top, width, _ = self.program.place(MAIN)
+        # No line of the hull runs along the very corner of the surface.
+        corner = (left + width - 14 * self.scale, top + 175 * self.scale)
+        return picture, white_box(picture, corner, window)
+
+    def close(self):
+        """Ends the program and answers that the hull is to be saved; not a word has come from it."""
+        self.menu("f", "e")
+        self.program.keys("Tarve Designer", "alt+y")
+        assert self.program.ends() == 0, "the program ends well"
+        assert self.program.messages.read_text() == "", "it says nothing on the terminal"
+
+
+def run_at_each_scale(run, size):
+    """Runs `run(desktop, command, folder, pictures)` for the arguments PROGRAM PICTURES [SCALE...]."""
+    command, pictures, *scales = sys.argv[1:]
+    for scale in map(int, scales or ("1", "2")):
+        kept = pathlib.Path(pictures) / f"{scale}x"
+        kept.mkdir(parents=True, exist_ok=True)
+        with new_folder() as folder, Desktop((size[0] * scale, size[1] * scale), scale) as desktop:
+            boats = pathlib.Path(folder) / "boats"
+            boats.mkdir()
+            run(desktop, command, boats, kept)
+    print("pictures are in", pictures)
+
+
 def wait_for(found, seconds, what):
     limit = time.monotonic() + seconds
     while True:
@@ -122,6 +186,51 @@ def has_colour(picture, colour, box):
     low, high = colour if isinstance(colour[0], tuple) else (colour, colour)
     return sum(count for count, found in picture.crop(box).getcolors(1 << 24)
                if all(a <= c <= b for a, c, b in zip(low, found, high)))
+
+
+def runs(line, is_wanted, least):
+    """The stretches of at least so many wanted pixels in a list, as pairs of first and end."""
+    found, start = [], None
+    for at, pixel in enumerate([*line, None]):
+        wanted = pixel is not None and is_wanted(pixel)
+        if wanted and start is None:
+            start = at
+        elif not wanted and start is not None:
+            if at - start >= least:
+                found.append((start, at))
+            start = None
+    return found
+
+
+def column(picture, x, top, bottom):
+    return [picture.getpixel((x, y)) for y in range(top, bottom)]
+
+
+def row(picture, y, left, right):
+    return [picture.getpixel((x, y)) for x in range(left, right)]
+
+
+def is_white(pixel):
+    return pixel == WHITE
+
+
+def text_lines(picture, box):
+    """The middles of the lines of dark text in a box."""
+    left, top, right, bottom = box
+    grey = picture.crop(box).convert("L")
+    inked = [grey.crop((0, y, right - left, y + 1)).getextrema()[0] < 120 for y in range(bottom - top)]
+    return [top + (start + end) // 2 for start, end in runs(inked, bool, 3)]
+
+
+def middle_of(picture, colour, box):
+    """The middle of all pixels of a colour in a box, or nothing."""
+    left, top, right, bottom = box
+    pixel = picture.load()
+    found = [(x, y) for y in range(top, bottom) for x in range(left, right) if pixel[x, y] == colour]
+    if not found:
+        return None
+    xs, ys = zip(*found)
+    return round((min(xs) + max(xs)) / 2), round((min(ys) + max(ys)) / 2)
 
 
 def white_box(picture, inside, window):

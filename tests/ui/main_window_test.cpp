@@ -1,6 +1,5 @@
 #include "ui/main_window.h"
 
-#include <QAbstractSlider>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -15,6 +14,7 @@
 #include "support/program_test.h"
 #include "ui/control_faces.h"
 #include "ui/picture_surface.h"
+#include "ui/window_test.h"
 #include "views/spin_view.h"
 
 namespace {
@@ -24,10 +24,7 @@ class MainWindowTest : public ProgramTest {
   void SetUp() override {
     ProgramTest::SetUp();
     window = std::make_unique<MainWindowWidget>();
-    window->resize(1024, 700);
-    window->show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
-    QCoreApplication::processEvents();
+    ShowAt(*window, {1024, 700});
   }
   void TearDown() override {
     window.reset();
@@ -36,13 +33,7 @@ class MainWindowTest : public ProgramTest {
 
   template <class Widget>
   Widget* Named(const QString& name) const {
-    for (auto* widget : window->findChildren<Widget*>()) {
-      if (widget->accessibleName() == name) {
-        return widget;
-      }
-    }
-    ADD_FAILURE() << "no widget " << name.toStdString();
-    return nullptr;
+    return ::Named<Widget>(*window, name);
   }
 
   void Choose(const QString& menu, const QString& item) const {
@@ -200,35 +191,6 @@ TEST_F(MainWindowTest, ClosingAsksAndCancelKeepsTheWindow) {
   EXPECT_TRUE(unloaded);
   EXPECT_TRUE(Exists("default.tvh"));
   EXPECT_EQ(asked, std::vector<std::string>(2, "Do you want to save to default.tvh?"));
-}
-
-TEST_F(MainWindowTest, NothingIsClippedAndEverythingHasAName) {
-  Form1.HScroll1.Visible = true;
-  Form1.Combo1.Visible = true;
-  for (const QSize size : {QSize(1024, 700), QSize(1920, 1080)}) {
-    window->resize(size);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(window->size(), size) << "the controls need more room";
-    for (const auto* widget : window->findChildren<QWidget*>()) {
-      const bool control = qobject_cast<const QAbstractButton*>(widget) != nullptr ||
-                           qobject_cast<const QLineEdit*>(widget) != nullptr ||
-                           qobject_cast<const QAbstractSlider*>(widget) != nullptr;
-      if (!control || !widget->isVisible() || widget->parentWidget() == window->menuBar() ||
-          qobject_cast<const QComboBox*>(widget->parentWidget()) != nullptr) {
-        continue;
-      }
-      EXPECT_FALSE(widget->accessibleName().isEmpty()) << widget->metaObject()->className();
-      const QRect place(widget->mapTo(window.get(), QPoint(0, 0)), widget->size());
-      EXPECT_TRUE(window->rect().contains(place)) << widget->accessibleName().toStdString();
-      const auto* button = qobject_cast<const QPushButton*>(widget);
-      if (button != nullptr && button->icon().isNull()) {
-        EXPECT_GE(button->width(), button->fontMetrics().horizontalAdvance(button->text()) + 8);
-      }
-    }
-    for (const auto* label : window->centralWidget()->findChildren<QLabel*>()) {
-      EXPECT_GE(label->width(), label->sizeHint().width()) << label->text().toStdString();
-    }
-  }
 }
 
 TEST(PictureSurface, DrawsAtOnceKeepsItAndTakesExclusiveOrBack) {

@@ -2,44 +2,9 @@
 the waterline, the spin by keys, another window size, the closing question, and the next start that finds
 the edited hull. Pictures of each step are kept in a folder that the last line tells."""
 
-import pathlib
-import sys
-import time
+from desktop import DARK, MAIN, Program, Session, has_colour, run_at_each_scale
 
-from desktop import Desktop, Program, has_colour, new_folder, white_box
-
-MAIN = "Tarve Designer 1.91"
-ABOUT = "Tarve Ply Designer"
 LIGHT_BLUE, LIGHT_RED, MAGENTA = (0, 0, 255), (255, 0, 0), (255, 0, 255)
-DARK = ((0, 0, 0), (90, 90, 90))  # black, smoothed at its edges
-
-
-class Session:
-    def __init__(self, program, pictures, scale):
-        self.program, self.pictures, self.scale = program, pictures, scale
-
-    def look(self, name):
-        """A picture of the screen, kept, and the place of the drawing surface on it."""
-        time.sleep(0.3)
-        picture = self.program.desktop.picture()
-        picture.save(self.pictures / f"{name}.png")
-        window = left, top, width, _ = self.program.place(MAIN)
-        # No line of the hull runs along the very corner of the surface.
-        corner = (left + width - 14 * self.scale, top + 175 * self.scale)
-        return picture, white_box(picture, corner, window)
-
-    def menu(self, letter, *more):
-        self.program.keys(MAIN, "alt+" + letter, *more)
-
-    def start(self):
-        self.program.window(MAIN)
-        self.program.keys(ABOUT, "Return")
-        self.program.no_window(ABOUT)
-
-    def close(self):
-        self.menu("f", "e")
-        self.program.keys("Tarve Designer", "alt+y")
-        assert self.program.ends() == 0, "the program ends well"
 
 
 def offset(hull, bulkhead, chine, axis):
@@ -82,26 +47,14 @@ def water(session):
     _, surface = session.look("7-waterline-bar")
     for _ in range(40):  # to the slider, wherever it stands in the order of the keyboard
         session.program.keys(MAIN, "Tab", "Prior")
-        after, _ = session.look("8-waterline")
-        if has_colour(after, LIGHT_BLUE, surface) > 200:
-            return after, surface
+        if has_colour(session.program.desktop.picture(), LIGHT_BLUE, surface) > 200:
+            return session.look("8-waterline")
     raise AssertionError("no key brought the waterline onto the picture")
 
 
-def main(command, pictures):
-    pictures = pathlib.Path(pictures)
-    pictures.mkdir(parents=True, exist_ok=True)
-    for scale, size in ((1, (1100, 760)), (2, (2200, 1520))):
-        with new_folder() as folder, Desktop(size, scale) as desktop:
-            run(desktop, command, pathlib.Path(folder) / "boats", pictures / f"{scale}x", scale)
-    print("pictures are in", pictures)
-
-
-def run(desktop, command, folder, pictures, scale):
-    folder.mkdir()
-    pictures.mkdir(exist_ok=True)
+def run(desktop, command, folder, pictures):
     with Program(desktop, command, folder) as program:
-        session = Session(program, pictures, scale)
+        session = Session(program, pictures)
         shape(session)
         after, surface = water(session)
         assert has_colour(after, MAGENTA, surface) > 5, "the center of lateral area is marked"
@@ -116,7 +69,7 @@ def run(desktop, command, folder, pictures, scale):
         turned, _ = session.look("11-spun-again")
         assert spun.tobytes() != turned.tobytes(), "a key turns the hull"
 
-        program.do("windowsize", "--sync", program.window(MAIN), 1000 * scale, 640 * scale)
+        program.do("windowsize", "--sync", program.window(MAIN), 960 * desktop.scale, 540 * desktop.scale)
         session.look("12-smaller")
         session.close()
 
@@ -125,7 +78,7 @@ def run(desktop, command, folder, pictures, scale):
     assert abs(x - 33.5) < 0.3 and abs(y - 17) < 0.3, f"the dragged node is at {x}, {y}"
 
     with Program(desktop, command, folder) as program:
-        session = Session(program, pictures, scale)
+        session = Session(program, pictures)
         session.start()
         session.menu("v", "s")
         session.look("13-found-again")
@@ -135,4 +88,4 @@ def run(desktop, command, folder, pictures, scale):
 
 
 if __name__ == "__main__":
-    main(*sys.argv[1:])
+    run_at_each_scale(run, (1100, 760))
