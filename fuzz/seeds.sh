@@ -42,7 +42,14 @@ printf '500, 500\r\n' | seed calibration usual.dat
 printf -- '-1016 1016\n' | seed calibration blank.dat
 printf '0\r\n1E3\r\n' | seed calibration lines.dat
 
-head -120 "$scratch/handplot.txt" | seed nest handplot.txt
-printf 'boat.tvh\r\nA.uc __\r\n0.00  1.5\r\n-3 4\r\n\r\n' | seed nest short.txt
+seeds nest "$scratch/handplot.txt"
+printf '%s\r\n' 'Hand plotting file for boat.tvh' 'X in.         Y in.' 'a.uc          ____' '0.00          0.00' \
+  '300.00        0.0000' '300.00        4.0000' 'b.uc          ____' '-6.00         12.50' '' | seed nest short.txt
+
+printf '%s' '{"sheet": {"height": 40.5, "length": 100, "count": 4}, "parts": [{"name": "deck.uc", "x": 48, "y": 24,' \
+  ' "turn": 90, "flip": true, "copy": {"x": 140, "y": 24, "turn": -0.25}}]}' | seed layout copy.json
+printf '%s' '{"parts": [{"name": "transom.uc", "x": 1e2, "y": -3}, {"name": "Chine1.UC", "x": 7, "y": 0}]}' |
+  seed layout plain.json
+
 seeds figures "$here/data/persons.fig"
-printf 'start\r\nAnn\r\n0 0\r\n3.5 -4\r\nend\r\nstart\r\nBob\r\n1 67\r\n' | seed figures short.fig
+printf '%s\r\n' start Short '1 2' 'no_blank' '-3.5 1E3' end start Last '5 6' | seed figures short.fig
