@@ -40,8 +40,6 @@ const std::array<NestInstance, 2> NestInstances = {{
 
 namespace {
 
-bool window_is_loaded = false;
-
 std::string_view Trim(std::string_view text) {
   const std::size_t first = std::min(text.find_first_not_of(' '), text.size());
   text.remove_prefix(first);
@@ -253,7 +251,7 @@ void ReadHandPlot(std::string_view text) {
 
 void Form2_Load() {
   ForgetNest();
-  window_is_loaded = true;
+  Form2.Loaded = true;
   Form2.Move(Place::Centre);
   Form2.Visible = true;
   Form2.Option1.Value = true;
@@ -273,16 +271,14 @@ void Form2_Unload() {
   PutControlsBack();
   ReadSheets();
   Form2.Visible = false;
-  window_is_loaded = false;
+  Form2.Loaded = false;
 }
 
 void dummy15_Click() {
-  if (!window_is_loaded) {
+  if (!Form2.Loaded) {
     Form2_Load();
-  } else if (Form2.Visible) {
-    Form2.Visible.Show();  // to the front
   }
-  Form2.Visible = true;
+  Form2.Open();
   const double mark = RoundHalfEven(NumberOf(NestMark));
   if (mark >= 0 && mark <= 2) {  // what a check box can be; anything else leaves it as it is
     TickWithoutMarking(mark != 0);
