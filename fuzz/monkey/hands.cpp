@@ -139,6 +139,7 @@ void AddForm3(std::vector<Hand>& hands) {
                                 Check("Form3.Check10", f, f.Check10, Usual),
                                 Button("Form3.Command1", f, f.Command1.Click, 2 * Usual),
                                 Button("Form3.Command2", f, f.Command2.Click, Seldom),
+                                Button("Form3, to which the keyboard comes,", f, f.GotFocus, Hardly),
                                 Keys("Form3", f, Usual),
                                 CloseBox("Form3", f, Hardly),
                             });
