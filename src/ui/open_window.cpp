@@ -87,6 +87,7 @@ QWidget* OpenWindowWidget::BuildFigures() {
     auto* surface = new PictureSurface(Form4.Picture2[i], nullptr);
     surface->FixSize({FigureSize, FigureSize});
     surface->setCursor(Qt::PointingHandCursor);
+    surface->setFocusPolicy(Qt::TabFocus);
     Describe(surface, QString("Figure %1").arg(i + 1),
              "A click puts the figure into the drawing, or takes it out");
     frames_[i] = Framed(surface);

@@ -1,7 +1,10 @@
 #include "ui/picture_surface.h"
 
 #include <QFontMetricsF>
+#include <QKeyEvent>
 #include <QMouseEvent>
+#include <QStyle>
+#include <QStyleOptionFocusRect>
 #include <QTimer>
 #include <algorithm>
 #include <cmath>
@@ -275,6 +278,11 @@ void PictureSurface::paintEvent(QPaintEvent* event) {
   QPainter screen(this);
   screen.setClipRect(event->rect());
   screen.drawImage(0, 0, buffer_);
+  if (hasFocus()) {
+    QStyleOptionFocusRect frame;
+    frame.initFrom(this);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &frame, &screen, this);
+  }
 }
 
 void PictureSurface::resizeEvent(QResizeEvent*) {
@@ -318,4 +326,12 @@ void PictureSurface::mouseDoubleClickEvent(QMouseEvent* event) {
   }
   after_double_click_ = true;
   picture_.DblClick();
+}
+
+void PictureSurface::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space) {
+    picture_.Click();
+  } else {
+    QWidget::keyPressEvent(event);
+  }
 }

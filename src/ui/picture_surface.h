@@ -52,6 +52,8 @@ class PictureSurface : public QWidget, public DrawSurface {
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
+  /// A picture that takes the keyboard is clicked by Enter and the space bar.
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   /// False if the one that is there still fits.
