@@ -72,6 +72,11 @@ void Face(DirListBox& control, QListWidget* widget) {
 
 void Face(DriveListBox& control, QComboBox* widget) {
   widget->addItems(Places());
-  QObject::connect(widget, &QComboBox::textActivated, widget,
-                   [&control](const QString& place) { control.Drive = Entered(place); });
+  QObject::connect(widget, &QComboBox::textActivated, widget, [&control](const QString& place) {
+    if (*control.Drive == Entered(place)) {
+      control.Change();  // chosen again, it leads back to its root
+    } else {
+      control.Drive = Entered(place);
+    }
+  });
 }
