@@ -47,7 +47,7 @@ class EnterPresses : public QObject {
 };
 
 /// Watches for Enter in a list. The list's own signal for it would also come with a double click,
-/// whose two clicks have been told already.
+/// whose two clicks are told anyway.
 class EnterWatch : public QObject {
  public:
   EnterWatch(QListWidget* list, std::function<void(const QListWidgetItem*)> choose)
@@ -191,6 +191,7 @@ void Face(ListBox& control, QListWidget* widget) {
 
 void OnChoice(QListWidget* list, std::function<void(const QListWidgetItem*)> choose) {
   QObject::connect(list, &QListWidget::itemClicked, list, choose);
+  QObject::connect(list, &QListWidget::itemDoubleClicked, list, choose);  // told in place of a second click
   new EnterWatch(list, std::move(choose));
 }
 

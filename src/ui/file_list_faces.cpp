@@ -76,8 +76,9 @@ void Face(DriveListBox& control, QComboBox* widget) {
   QTimer::singleShot(0, widget, [widget] { widget->addItems(Places()); });
   QObject::connect(widget, &QComboBox::textActivated, widget, [&control](const QString& place) {
     if (*control.Drive == Entered(place)) {
-      control.Change();  // back to the root of the place that was chosen before
+      control.Change();  // chosen again, it leads back to its root
+    } else {
+      control.Drive = Entered(place);
     }
-    control.Drive = Entered(place);
   });
 }

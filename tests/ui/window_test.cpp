@@ -83,6 +83,12 @@ void ShowAt(QWidget& window, QSize size) {
   }
 }
 
+void DoubleClick(const QListWidget& list, QPoint at) {
+  QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, at);
+  QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, at);
+  QTest::mouseRelease(list.viewport(), Qt::LeftButton, {}, at);
+}
+
 void ExpectNothingIsClipped(QWidget& window) {
   std::vector<std::pair<QRect, std::string>> places;
   for (const auto* widget : window.findChildren<QWidget*>()) {

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include <QList>
+#include <QListWidget>
 #include <QString>
 #include <QWidget>
 
@@ -22,6 +22,9 @@ Widget* Named(const QWidget& window, const QString& name) {
 
 /// Shows a window, and lets it settle, at a size; with none at the size it has.
 void ShowAt(QWidget& window, QSize size = {});
+
+/// All that a hand does in a double click on a list; the toolkit's own helper leaves the first click out.
+void DoubleClick(const QListWidget& list, QPoint at);
 
 /// Every control lies inside the window, covers no other one, has a name and room for its text.
 void ExpectNothingIsClipped(QWidget& window);
