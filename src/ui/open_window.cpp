@@ -49,7 +49,13 @@ OpenWindowWidget::OpenWindowWidget(QWidget* parent) : QWidget(parent, Qt::Window
   new WindowFace(Form4, this);
   // The window is loaded and hidden again before the program is there: it has no turn to flash.
   const auto show = Form4.Visible.Show;
-  Form4.Visible.Show = [this, show] { QTimer::singleShot(0, this, show); };
+  Form4.Visible.Show = [this, show] {
+    if (Form4.Visible) {
+      QTimer::singleShot(0, this, show);
+    } else {
+      show();
+    }
+  };
   ResizeToScreen(this, {900, 470});
 }
 
