@@ -27,10 +27,11 @@ class Desktop:
 
     def __enter__(self):
         reader, writer = os.pipe()
+        # Without -noreset the server begins anew, and turns programs away, whenever its last one leaves:
+        # xdotool does, should it look for a window before the program has come.
         self.server = subprocess.Popen(
             ["Xvfb", "-displayfd", str(writer), "-screen", "0", "%dx%dx24" % self.size, "-nolisten", "tcp",
-             "-noreset"],
-            pass_fds=[writer], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+             "-noreset"], pass_fds=[writer], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         os.close(writer)
         with os.fdopen(reader) as lines:
             self.display = ":" + lines.readline().strip()
@@ -56,11 +57,11 @@ class Program:
     def __enter__(self):
         (self.home / "bin").mkdir(mode=0o700, parents=True, exist_ok=True)
         self.home.chmod(0o700)
-        # No printer of this machine is in reach: what is printed goes to a file.
+        # Neither a printer of this machine is in reach, so what is printed goes to a file, nor its desktop.
         self.environment = dict(
             os.environ, DISPLAY=self.desktop.display, HOME=str(self.home), LC_ALL="C.UTF-8",
             XDG_CONFIG_HOME=str(self.home / "config"), XDG_RUNTIME_DIR=str(self.home),
-            CUPS_SERVER=str(self.home / "no-printers"), QT_QPA_PLATFORM="xcb",
+            CUPS_SERVER=str(self.home / "no-printers"), DBUS_SESSION_BUS_ADDRESS="disabled:", QT_QPA_PLATFORM="xcb",
             QT_SCALE_FACTOR=str(self.desktop.scale))
         with open(self.messages, "w") as messages:
             self.process = subprocess.Popen([self.command], cwd=self.folder, stderr=messages,
@@ -153,8 +154,8 @@ class Session:
         """Ends the program and answers that the hull is to be saved; not a word has come from it."""
         self.menu("f", "e")
         self.program.keys("Tarve Designer", "alt+y")
-        assert self.program.ends() == 0, "the program ends well"
-        assert self.program.messages.read_text() == "", "it says nothing on the terminal"
+        status, said = self.program.ends(), self.program.messages.read_text()
+        assert (status, said) == (0, ""), f"ended with {status} and said: {said}"
 
 
 def run_at_each_scale(run, size):
