@@ -46,10 +46,14 @@ void CheckTime() {
   }
 }
 
+bool HullIsWritten() {
+  return ReadWorkingFile("default.tvh") == HullText();
+}
+
 /// The program started anew holds the hull that was written: the one that a repaint would show, which
 /// brings a heeled hull upright, too.
 void StartFromWritten(Stream& stream) {
-  const bool was_written = ReadWorkingFile("default.tvh") == HullText();
+  const bool was_written = HullIsWritten();
   Form1.Refresh();
   const HullState written = TakeHullState();
   StartProgramAnew(stream);
@@ -102,6 +106,9 @@ void EndRun(Stream& stream) {
   Tell("; end of the run");
   AllowWriting();
   Form1.Timer1();
+  if (!HullIsWritten()) {
+    NoteFault("the clock ticked, and the hull is not written");
+  }
   StartFromWritten(stream);
   const std::string text = HullText();
   Form1.Timer1();

@@ -242,5 +242,5 @@ void CheckFolders() {
 }
 
 std::string ReadWorkingFile(const std::string& name) {
-  return ReadFile(Work() / name);
+  return ReadFile(FindFile(name));
 }

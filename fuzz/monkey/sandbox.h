@@ -30,4 +30,5 @@ void AllowWriting();
 /// Notes a fault for a folder or a left-over file that nobody should have made.
 void CheckFolders();
 
+/// Letter case aside, like the program: somebody may have saved "DEFAULT.TVH".
 std::string ReadWorkingFile(const std::string& name);
