@@ -142,9 +142,7 @@ TEST_F(HullFile, ChinesBeyondThirtyAreReadPastAndDropped) {
   EXPECT_EQ(NumChines, 30);
   EXPECT_EQ(OffX(30, 4), 30);
   EXPECT_EQ(OffX(1, 4), 1);
-}
 
-TEST_F(HullFile, HostileBytesAreData) {
   LoadHull(std::string("3\r\n\0\0\0\r\n", 8) + std::string(1 << 20, '9') + "\r\n" + std::string(1 << 20, 'x'),
            HullReader::FileList);
   EXPECT_EQ(NumChines, 3);

@@ -1,4 +1,3 @@
-#include <gtest/gtest.h>
 
 #include "controls/dialogs.h"
 #include "hull/hull_model.h"
@@ -36,9 +35,7 @@ TEST_F(NestOutput, TheTableTellsEachPointInTheColumnOfItsSheet) {
                     "Copy of board.uc  (extend lines to panel edges)",
                     Rule[0],
                     std::string(56, ' ') + "88-4\" by -1-7\"",
-                    "",
-                    "",
-                    "",
+                    "\r\n\r\n",
                     "Sheet 1       Sheet 2       Sheet 3       Sheet 4       Sheet 5",
                     "",
                     "board.uc",

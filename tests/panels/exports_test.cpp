@@ -1,4 +1,3 @@
-#include <gtest/gtest.h>
 
 #include "controls/forms.h"
 #include "hull/hull_model.h"
@@ -57,9 +56,7 @@ TEST_F(Exports, HpglChoosesPensAheadOfCoordinatesOnly) {
   EXPECT_EQ(Lines(HpglOfPattern(pattern)), (Text{"SP 1;", "PU  1016,  2032;", "PD -51,  121;", "SP 1;",
                                                  "PD  1016,  1016;", "PD 0,  0;", "PU 0,  0;"}));
   EXPECT_EQ(HpglOfPattern("0 pendown\r\n"), "SP 1;\r\n");
-}
 
-TEST_F(Exports, HpglHoldsCoordinatesInSinglePrecision) {
   EXPECT_EQ(HpglOfPattern("6075000 0 acut\r\n"), "SP 1;\r\nPU  1.23444E+07,  0;\r\n");
 }
 

@@ -16,31 +16,27 @@ class FlatViewsTest : public ViewTest {
 };
 
 TEST_F(FlatViewsTest, SampleHullsInAllViews) {
-  struct Row {
-    const char* hull;
-    View view;
-    const char* stem;  // the lowest segment of bulkhead 0
-  };
-  const Row rows[] = {{"pram.tvh", View::Sections, "line 10.0,8.3 14.0,11.5 c1"},
-                      {"pram.tvh", View::Profile, "line 5.5,8.3 4.0,11.5 c1"},
-                      {"pram.tvh", View::Plan, "line 5.5,10.0 4.0,14.0 c1"},
-                      {"dory.tvh", View::Sections, "line 0.6,4.5 0.6,12.0 c1"},
-                      {"dory.tvh", View::Profile, "line 25.0,4.5 17.7,12.0 c1"},
-                      {"dory.tvh", View::Plan, "line 25.0,0.6 17.7,0.6 c1"}};
-  for (const Row& row : rows) {
-    OpenSample(row.hull);
-    Show(row.view);
-    const bool sections = row.view == View::Sections;
-    const int fixed_line = row.view == View::Profile ? 0 : 1;
+  const std::tuple<const char*, View, const char*> rows[] = {
+      {"pram.tvh", View::Sections, "line 10.0,8.3 14.0,11.5 c1"},
+      {"pram.tvh", View::Profile, "line 5.5,8.3 4.0,11.5 c1"},
+      {"pram.tvh", View::Plan, "line 5.5,10.0 4.0,14.0 c1"},
+      {"dory.tvh", View::Sections, "line 0.6,4.5 0.6,12.0 c1"},
+      {"dory.tvh", View::Profile, "line 25.0,4.5 17.7,12.0 c1"},
+      {"dory.tvh", View::Plan, "line 25.0,0.6 17.7,0.6 c1"}};
+  for (const auto& [hull, view, stem] : rows) {
+    OpenSample(hull);
+    Show(view);
+    const bool sections = view == View::Sections;
+    const int fixed_line = view == View::Profile ? 0 : 1;
     const int n = NumChines;
-    for (const RecordingSurface* surface : {&thumbnails[static_cast<std::size_t>(row.view)], &picture}) {
+    for (const RecordingSurface* surface : {&thumbnails[static_cast<std::size_t>(view)], &picture}) {
       EXPECT_EQ(surface->Count("line ", " c7"), 12 * n + fixed_line);
       EXPECT_EQ(surface->Count("line ", " c1"), 5 * (n - 1));
-      EXPECT_TRUE(surface->Has(row.stem)) << surface->calls;
+      EXPECT_TRUE(surface->Has(stem)) << surface->calls;
       EXPECT_EQ(surface->Has("line 0.0,0.0 0.0,200.0 c7"), sections);
-      EXPECT_EQ(surface->Has("line 0.0,0.0 300.0,0.0 c7"), row.view == View::Plan);
+      EXPECT_EQ(surface->Has("line 0.0,0.0 300.0,0.0 c7"), view == View::Plan);
     }
-    EXPECT_EQ(thumbnails[static_cast<std::size_t>(row.view)].Count("point", ""), 0);
+    EXPECT_EQ(thumbnails[static_cast<std::size_t>(view)].Count("point", ""), 0);
     EXPECT_EQ(picture.Count("point ", " c12"), 12 * n + (sections ? 5 : 0));
     EXPECT_EQ(picture.Count("print", ""), sections ? 5 : 0);
     EXPECT_EQ(picture.Count("line ", " c12"), n - 1) << "the current bulkhead";

@@ -234,8 +234,6 @@ TEST_F(NodeEditing, TheZoomRectangleKeepsTheShapeOfTheSurface) {
   Form1.Picture2.MouseDown(Right, 50, 5);
   Form1.Picture2.MouseUp(Right, 50, 5);
   EXPECT_EQ(picture.Count("scale", ""), 0) << "of no size: refused";
-  Form1.Picture1[1].Click();
-  EXPECT_EQ(picture.Count("scale", ""), 1);
 }
 
 TEST_F(NodeEditing, AFigureTakesEveryDrag) {
@@ -251,7 +249,6 @@ TEST_F(NodeEditing, AFigureTakesEveryDrag) {
   EXPECT_EQ(OffY(2, 2), 20);
   Form1.Picture2.MouseMove(0, 9, 9);
   EXPECT_EQ(FigureOffsetX, 42);
-  EXPECT_EQ(Panels(), "x|9.00y|9.00z");
 }
 
 TEST_F(NodeEditing, ADoubleClickAsksForThreeValues) {

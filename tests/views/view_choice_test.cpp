@@ -1,7 +1,6 @@
 #include "views/view_choice.h"
 
 #include "hull/bulkhead_boxes.h"
-#include "support/program_test.h"
 #include "views/repaint.h"
 #include "views/view.h"
 #include "views/view_scale.h"
@@ -44,27 +43,22 @@ TEST_F(Views, EachSurfaceHasItsScale) {
   ShowBarge();
   EXPECT_TRUE(thumbnails[0].Has("scale -1.0,21.0 42.0,-1.0"));
   EXPECT_TRUE(thumbnails[2].Has("scale -1.0,50.5 101.0,-1.0"));
-  struct Row {
-    View view;
-    bool true_scale;
-    double depth;
-    const char* scale;
-  };
-  const Row rows[] = {{View::Profile, false, 20, "scale -1.0,21.0 101.0,-1.0"},
-                      {View::Profile, true, 20, "scale -1.0,50.5 101.0,-1.0"},
-                      {View::Profile, true, 50, "scale -1.0,50.5 101.0,-1.0"},  // as steep as the surface
-                      {View::Profile, true, 60, "scale -1.0,61.0 121.0,-1.0"},
-                      {View::Sections, false, 20, "scale -1.0,21.0 26.0,-1.0"},
-                      {View::Sections, true, 20, "scale -1.0,21.0 42.0,-1.0"},
-                      {View::Plan, false, 20, "scale -1.0,26.0 101.0,-1.0"},
-                      {View::Plan, true, 20, "scale -1.0,50.5 101.0,-1.0"},
-                      {View::Spin, false, 60, "scale -1.0,50.5 101.0,-1.0"},
-                      {View::Spin, true, 60, "scale -1.0,50.5 101.0,-1.0"}};
-  for (const Row& row : rows) {
-    CheckView(row.view);
-    Form1.TrueView.Checked = row.true_scale;
-    ShowBarge(row.depth);
-    EXPECT_TRUE(picture.calls.starts_with(std::string("cls\n") + row.scale + "\n")) << picture.calls;
+  const std::tuple<View, bool, double, const char*> rows[] = {
+      {View::Profile, false, 20, "scale -1.0,21.0 101.0,-1.0"},
+      {View::Profile, true, 20, "scale -1.0,50.5 101.0,-1.0"},
+      {View::Profile, true, 50, "scale -1.0,50.5 101.0,-1.0"},  // as steep as the surface
+      {View::Profile, true, 60, "scale -1.0,61.0 121.0,-1.0"},
+      {View::Sections, false, 20, "scale -1.0,21.0 26.0,-1.0"},
+      {View::Sections, true, 20, "scale -1.0,21.0 42.0,-1.0"},
+      {View::Plan, false, 20, "scale -1.0,26.0 101.0,-1.0"},
+      {View::Plan, true, 20, "scale -1.0,50.5 101.0,-1.0"},
+      {View::Spin, false, 60, "scale -1.0,50.5 101.0,-1.0"},
+      {View::Spin, true, 60, "scale -1.0,50.5 101.0,-1.0"}};
+  for (const auto& [view, true_scale, depth, scale] : rows) {
+    CheckView(view);
+    Form1.TrueView.Checked = true_scale;
+    ShowBarge(depth);
+    EXPECT_TRUE(picture.calls.starts_with(std::string("cls\n") + scale + "\n")) << picture.calls;
   }
 }
 
