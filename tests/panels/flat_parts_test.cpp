@@ -8,6 +8,8 @@ namespace {
 
 using FlatParts = ProgramTest;
 
+using Text = std::vector<std::string>;
+
 /// The lines of a part between its head and its end.
 std::vector<std::string> Body(const std::string& text) {
   const auto lines = Lines(text);
@@ -17,7 +19,14 @@ std::vector<std::string> Body(const std::string& text) {
   return {lines.begin() + 2, lines.end() - 1};
 }
 
-using Text = std::vector<std::string>;
+/// Lines as one text, for short.
+std::string InARow(const Text& lines) {
+  std::string row;
+  for (const std::string& line : lines) {
+    row += (row.empty() ? "" : "; ") + line;
+  }
+  return row;
+}
 
 TEST_F(FlatParts, ABulkheadWorkedOutByHand) {
   NumChines = 3;
@@ -25,42 +34,20 @@ TEST_F(FlatParts, ABulkheadWorkedOutByHand) {
   SetChine(2, {1, 10, 1, 1, 1}, {0, 5, 0, 0, 0}, {0, 20, 40, 60, 80});
   SetChine(3, {1, 14.5, 1, 1, 1}, {0, 12, 0, 0, 0}, {0, 20, 40, 60, 80});
   WriteFlatParts();
-  const Text whole = {"/* hand plot all points */",
-                      "0 penup",
-                      "0 1000 acut",
-                      "0 pendown",
-                      "5000 2500 acut",
-                      "7250 6000 acut",
-                      "0 6000 acut",
-                      "-7250 6000 acut",
-                      "-5000 2500 acut",
-                      "0 1000 acut",
-                      "0 1000 acut",
-                      "0 1000 acut",
-                      "0 penup"};
-  EXPECT_EQ(Body(Read("bhead1.uc")), whole);
+  const std::string whole =
+      "/* hand plot all points */; 0 penup; 0 1000 acut; 0 pendown; 5000 2500 acut; "
+      "7250 6000 acut; 0 6000 acut; -7250 6000 acut; -5000 2500 acut; 0 1000 acut; "
+      "0 1000 acut; 0 1000 acut; 0 penup";
+  EXPECT_EQ(InARow(Body(Read("bhead1.uc"))), whole);
 
   Form3.Check6.Value = true;
   Form3.Check2.Value = true;  // the mean height is (2 + 5 + 12) / 9, 2.111 inches
   WriteFlatParts();
-  const Text half = {"/* hand plot all points */",
-                     "0 penup",
-                     "0 1000 acut",
-                     "0 pendown",
-                     "5000 2500 acut",
-                     "7250 6000 acut",
-                     "0 6000 acut",
-                     "0 1000 acut",
-                     "0 1000 acut",
-                     "0 penup",
-                     "-375 180 acut",
-                     "0 pendown",
-                     "-375 1930 acut",
-                     "375 1930 acut",
-                     "375 180 acut",
-                     "-375 180 acut",
-                     "0 penup"};
-  EXPECT_EQ(Body(Read("bhead1.uc")), half);
+  const std::string half =
+      "/* hand plot all points */; 0 penup; 0 1000 acut; 0 pendown; 5000 2500 acut; "
+      "7250 6000 acut; 0 6000 acut; 0 1000 acut; 0 1000 acut; 0 penup; -375 180 acut; "
+      "0 pendown; -375 1930 acut; 375 1930 acut; 375 180 acut; -375 180 acut; 0 penup";
+  EXPECT_EQ(InARow(Body(Read("bhead1.uc"))), half);
 }
 
 TEST_F(FlatParts, CoordinatesAreFlooredTowardMinusInfinity) {
@@ -83,13 +70,10 @@ TEST_F(FlatParts, FramesAreCutFromTheInterpolatedHull) {
   Form3.FrameText[2].Text = "-500";  // the box tells the magnitude, the clamp reads the box
   Form3.FrameText[4].Text = "9999";
   WriteFlatParts();
-  const Text expected = {"0 penup",         "/* hand plot all points */",
-                         "2500 0 acut",     "0 pendown",
-                         "2500 5000 acut",  "0 5000 acut",
-                         "-2500 5000 acut", "-2500 0 acut",
-                         "0 0 acut",        "2500 0 acut",
-                         "0 penup"};
-  EXPECT_EQ(Body(Read("frame1.uc")), expected);
+  const std::string expected =
+      "0 penup; /* hand plot all points */; 2500 0 acut; 0 pendown; 2500 5000 acut; "
+      "0 5000 acut; -2500 5000 acut; -2500 0 acut; 0 0 acut; 2500 0 acut; 0 penup";
+  EXPECT_EQ(InARow(Body(Read("frame1.uc"))), expected);
   EXPECT_FALSE(Exists("frame2.uc"));
   EXPECT_EQ(*Form3.FrameText[4].Text, "80");
   EXPECT_EQ(FrameInches(4), 80);
@@ -121,17 +105,17 @@ TEST_F(FlatParts, TransomAndStemAreDevelopedInTheirOwnPlane) {
   Form3.Check7.Value = true;
   WriteFlatParts();
   const auto transom = Body(Read("transom.uc"));
-  const Text expected = {"0 0 acut", "0 pendown",    "6000 2500 acut",  "7000 2500 acut",  "1000 0 acut",
-                         "0 0 acut", "-1000 0 acut", "-7000 2500 acut", "-6000 2500 acut", "0 0 acut",
-                         "0 0 acut", "0 0 acut",     "0 penup"};
-  EXPECT_EQ(Text(transom.begin() + 2, transom.end()), expected);
+  const std::string expected =
+      "0 0 acut; 0 pendown; 6000 2500 acut; 7000 2500 acut; 1000 0 acut; 0 0 acut; "
+      "-1000 0 acut; -7000 2500 acut; -6000 2500 acut; 0 0 acut; 0 0 acut; 0 0 acut; 0 penup";
+  EXPECT_EQ(InARow(Text(transom.begin() + 2, transom.end())), expected);
   Form3.Check6.Value = true;  // half frames don't touch the stem
   WriteFlatParts();
   const auto stem = Body(Read("stem.uc"));
-  const Text up = {"500 0 acut",    "0 pendown",      "500 2500 acut",  "500 5000 acut",
-                   "500 5000 acut", "-500 5000 acut", "-500 5000 acut", "-500 2500 acut",
-                   "-500 0 acut",   "500 0 acut",     "0 penup"};
-  EXPECT_EQ(Text(stem.begin() + 2, stem.end()), up);
+  const std::string up =
+      "500 0 acut; 0 pendown; 500 2500 acut; 500 5000 acut; 500 5000 acut; -500 5000 acut; "
+      "-500 5000 acut; -500 2500 acut; -500 0 acut; 500 0 acut; 0 penup";
+  EXPECT_EQ(InARow(Text(stem.begin() + 2, stem.end())), up);
 }
 
 TEST_F(FlatParts, ATransomHasRoomForTenChines) {

@@ -2,8 +2,10 @@
 // A surface that keeps its calls as text, one a line: "line 0,0 1,2 c9". It keeps the contract: an
 // empty scale is refused, and a call with a coordinate that has no value is none.
 
+#include <algorithm>
 #include <cmath>
 #include <initializer_list>
+#include <sstream>
 #include <string>
 
 #include "base/number_text.h"
@@ -58,12 +60,9 @@ class RecordingSurface : public DrawSurface {
   /// How many calls start so and end so.
   int Count(const std::string& start, const std::string& end) const {
     int count = 0;
-    std::size_t at = 0;
-    while (at < calls.size()) {
-      const std::size_t line_end = calls.find('\n', at);
-      const std::string call = calls.substr(at, line_end - at);
+    std::istringstream lines(calls);
+    for (std::string call; std::getline(lines, call);) {
       count += call.starts_with(start) && call.ends_with(end) ? 1 : 0;
-      at = line_end + 1;
     }
     return count;
   }
@@ -80,12 +79,7 @@ class RecordingSurface : public DrawSurface {
 
  private:
   static bool HaveValues(std::initializer_list<double> values) {
-    for (const double value : values) {
-      if (!HasValue(value)) {
-        return false;
-      }
-    }
-    return true;
+    return std::all_of(values.begin(), values.end(), [](double value) { return HasValue(value); });
   }
   void NoteDrawing(const std::string& what, std::initializer_list<double> values, int colour) {
     std::string call = what;

@@ -36,11 +36,10 @@ TEST_F(SpinView, ARepaintStartsFromTheTiltedHull) {
   EXPECT_NEAR(ViewPtsA(2, 1, 2), c * 20, 1e-12);
   EXPECT_NEAR(ViewPtsA(3, 1, 2), -c * 20 * s + s * 25, 1e-12);
   EXPECT_NEAR(ViewPtsB(1, 1, 2), -c * 25 + s * 20 * s, 1e-12);
-  EXPECT_NEAR(ViewPtsB(3, 1, 2), -c * 20 * s - s * 25, 1e-12);
   const double start = ViewPtsA(1, 9, 1);
   Form1.Command5.Click();
-  EXPECT_NE(ViewPtsA(1, 9, 1), start);
   const double turned = ViewPtsA(1, 9, 1);
+  EXPECT_NE(turned, start);
   Form1.TrueView.Click();
   EXPECT_EQ(ViewPtsA(1, 9, 1), turned);
   Form1.Refresh();
@@ -103,7 +102,6 @@ TEST_F(SpinView, TheWireFrameOfBothSides) {
   EXPECT_EQ(picture.Count("to ", " c1"), 2 * 13 * (n - 1));
   EXPECT_EQ(picture.Count("line ", " c1"), 13) << "across the keel";
   EXPECT_EQ(picture.Count("line ", " c7"), 5 + 2 * (n - 2)) << "deck beams, rungs";
-  EXPECT_EQ(picture.Count("line ", ""), 13 + 5 + 2 * (n - 2));
   ShowBarge();
   EXPECT_EQ(picture.Count("line ", " c7"), 5) << "no rungs with two chines";
 }
