@@ -9,7 +9,6 @@
 #include "controls/forms.h"
 #include "nest/nest_model.h"
 #include "nest/nest_pages.h"
-#include "support/program_test.h"
 #include "ui/control_faces.h"
 #include "ui/nesting_window.h"
 #include "ui/picture_surface.h"
@@ -18,7 +17,7 @@
 
 namespace {
 
-class NestingWindowTest : public ProgramTest {
+class NestingWindowTest : public WindowTest<NestingWindowWidget> {
  protected:
   void SetUp() override {
     ProgramTest::SetUp();
@@ -31,18 +30,12 @@ class NestingWindowTest : public ProgramTest {
     ShowAt(*window, {1000, 500});
     picture = Named<PictureSurface>(*window, "Sheets with parts");
   }
-  void TearDown() override {
-    window.reset();
-    ProgramTest::TearDown();
-  }
 
   QPoint OnPicture(double x, double y) const {
     const double across = picture->width() / picture->ScaleWidth();
     const double up = (picture->height() - 48 * across) / 2;  // the row lies in the middle
     return {qRound((x - picture->ScaleLeft()) * across), qRound(picture->height() - up - y * across)};
   }
-
-  std::unique_ptr<NestingWindowWidget> window;
   PictureSurface* picture = nullptr;
 };
 
@@ -57,26 +50,19 @@ TEST_F(NestingWindowTest, EachClickOnARowTogglesItsPart) {
   EXPECT_EQ(NestShown(2), 0);
   DoubleClick(*parts, sail);
   EXPECT_EQ(NestShown(2), 0) << "a double click is two clicks";
-  DoubleClick(*parts, sail);
-  QTest::mouseClick(parts->viewport(), Qt::LeftButton, {}, sail);
-  EXPECT_EQ(NestShown(2), 1);
   QTest::keyClick(parts, Qt::Key_Space);
-  EXPECT_EQ(NestShown(2), 0);
+  EXPECT_EQ(NestShown(2), 1);
 }
 
 TEST_F(NestingWindowTest, TheMouseDragsAPartByItsHandle) {
   Form2.List1.SetListIndex(0);
   QTest::mousePress(picture, Qt::LeftButton, {}, OnPicture(5, 2));
   const QPoint target = OnPicture(40, 20);
-  QMouseEvent move(QEvent::MouseMove, target, picture->mapToGlobal(target), Qt::NoButton, Qt::LeftButton, {});
-  QApplication::sendEvent(picture, &move);
+  MoveMouse(*picture, target, Qt::LeftButton);
   QTest::mouseRelease(picture, Qt::LeftButton, {}, target);
   EXPECT_NEAR(NestPosX(1), 40, 0.2);
   EXPECT_NEAR(NestPosY(1), 20, 0.2);
-  QTest::mouseMove(picture, OnPicture(45, 22));
-  QMouseEvent hover(QEvent::MouseMove, OnPicture(45, 22), picture->mapToGlobal(OnPicture(45, 22)),
-                    Qt::NoButton, Qt::NoButton, {});
-  QApplication::sendEvent(picture, &hover);
+  MoveMouse(*picture, OnPicture(45, 22), Qt::NoButton);
   EXPECT_TRUE(window->windowTitle().startsWith("board.uc: 4")) << window->windowTitle().toStdString();
 }
 

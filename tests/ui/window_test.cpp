@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QAbstractSlider>
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
@@ -81,6 +82,11 @@ void ShowAt(QWidget& window, QSize size) {
   if (size.isValid()) {
     EXPECT_EQ(window.size(), size) << "the controls need more room";
   }
+}
+
+void MoveMouse(QWidget& widget, QPoint to, Qt::MouseButtons held) {
+  QMouseEvent move(QEvent::MouseMove, to, widget.mapToGlobal(to), Qt::NoButton, held, {});
+  QApplication::sendEvent(&widget, &move);
 }
 
 void DoubleClick(const QListWidget& list, QPoint at) {

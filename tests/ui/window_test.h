@@ -7,6 +7,24 @@
 #include <QListWidget>
 #include <QString>
 #include <QWidget>
+#include <memory>
+
+#include "support/program_test.h"
+
+/// A program with one window of its face, which goes before the program does.
+template <class Window>
+class WindowTest : public ProgramTest {
+ protected:
+  void TearDown() override {
+    window.reset();
+    ProgramTest::TearDown();
+  }
+
+  std::unique_ptr<Window> window;
+};
+
+/// A hand that moves the mouse over a widget with these buttons held.
+void MoveMouse(QWidget& widget, QPoint to, Qt::MouseButtons held);
 
 /// The widget of this type and accessible name; fails the test if there is none.
 template <class Widget>
