@@ -128,14 +128,13 @@ void CleanOffsets() {
 }
 
 /// Takes the Z of an interior bulkhead from the selected chine and brings all chines to it. A selected
-/// chine that the hull doesn't have (the hull before had more) has no Z: both keep theirs, or the next
-/// save would cost the user the hull.
+/// chine that the hull doesn't have (the hull before had more) has no Z: the chine's own stands, or the
+/// next save would cost the user the hull.
 void ReadBackInnerZ(int c, int k, int station) {
   const bool of_this_hull = CurChine >= 1 && CurChine <= NumChines;
-  const double z = of_this_hull ? static_cast<double>(HullPts(3, station, CurChine)) : NoValue;
-  OffZ(c, k) = z;
+  OffZ(c, k) = of_this_hull ? static_cast<double>(HullPts(3, station, CurChine)) : NoValue;
   for (int j = 1; j <= NumChines; ++j) {
-    HullPts(3, station, j) = z;
+    HullPts(3, station, j) = OffZ(c, k);
   }
 }
 

@@ -99,10 +99,14 @@ TEST_F(ChineSpline, WithoutAutoSplineTheHullPointsRule) {
   EXPECT_EQ(OffZ(1, 4), 150);
   EXPECT_EQ(OffZ(2, 4), 140);
   EXPECT_EQ(*Form1.StatusBar1.Panels[2], "MBm:0.00");
-  CurChine = -1;  // nothing selected: the inner Z stay
-  HullPts(3, 7, 2) = 70;
-  Form1.Refresh();
-  EXPECT_EQ(OffZ(2, 2), 61);
+  // Nothing selected, or a chine that only the hull before had: the inner Z stay.
+  for (const int chine : {-1, NumChines + 2}) {
+    CurChine = chine;
+    HullPts(3, 7, 2) = 70;
+    Form1.Refresh();
+    EXPECT_EQ(OffZ(2, 2), 61);
+    EXPECT_EQ(HullPts(3, 7, 2), 61);
+  }
 }
 
 TEST_F(ChineSpline, PitchTurnsTheHullAndBack) {
